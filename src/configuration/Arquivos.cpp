@@ -1,0 +1,1 @@
+#include "configuration/Arquivos.h"

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+/// Whether a file or a folder is there. Clears the error state on every path, which `Abrir_BD` depends on.
+bool Existe_Arquivo(const QString &path);
+
+/// The path up to and including its last separator; a path without one comes back as it is.
+QString Pasta_Do_Arquivo(const QString &path);
+
+/// Path of the shared `config.ini`.
+QString caminhoConfig();

@@ -1,0 +1,1 @@
+#include "configuration/Idiomas.h"

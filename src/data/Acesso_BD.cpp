@@ -1,0 +1,1 @@
+#include "data/Acesso_BD.h"

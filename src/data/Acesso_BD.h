@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/jet/Database.h"
+
+#include <QString>
+
+class TextOutput;
+
+/// The program-wide database, opened by its first user and closed only at the end of the program.
+extern DatabaseHandle BancoPrincipal;
+/// The first of the three program-wide recordsets; the windows pass one open query around in it.
+extern RecordsetHandle RecordsetGlobal1;
+extern RecordsetHandle RecordsetGlobal2;
+extern RecordsetHandle RecordsetGlobal3;
+
+/// The password part that every caller passes to `Abrir_BD`.
+QString textoConexao();
+
+/// Opens the database into an empty handle, or gives the open one back, whatever its path; empty on failure. The two
+/// numbers are not looked at.
+DatabaseHandle Abrir_BD(QString &path, int, int, const QString &connect, DatabaseHandle &handle);
+
+/// Opens the main handle at `CaminhoBD` when it is empty.
+void Abrir_Banco_Principal();
+
+/// Closes the target first, opens an empty handle, and runs a query to be read forward; empty on failure.
+RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int = 2, int = 512);
+RecordsetHandle Abrir_Recordset_Opcoes(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int type,
+                                       int options);
+/// Leaves the handle empty and the error state clear, whatever happened.
+void Fechar_Recordset(RecordsetHandle &rs);
+void Fechar_BD(DatabaseHandle &db);
+void Fechar_Recordsets_Globais();
+
+/// Whether the data file holds a table of that name, in any case.
+bool Existe_Tabela(const QString &name);
+
+/// Folder of a path, without trailing separator.
+QString Extrair_Pasta(const QString &path);
+
+/// Writes empty lines to an open text file; none for a count below 1.
+void Linhas_Em_Branco(int count, TextOutput &file);

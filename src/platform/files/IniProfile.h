@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+/// Value of a key: all that follows its "=", untrimmed; cut at `size` - 1 characters without a word. The fallback when
+/// there is no such file, section or key.
+QString GetPrivateProfileString(const QString &section, const QString &key, const QString &fallback, int size,
+                                const QString &file);
+
+/// Sets one key and keeps every other byte of the file; creates file, section and key as needed. False when the file
+/// could not be replaced.
+bool WritePrivateProfileString(const QString &section, const QString &key, const QString &value, const QString &file);

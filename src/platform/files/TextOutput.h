@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QFile>
+#include <QString>
+
+/// A text file, or the printer port of that name, opened for output line by line.
+///
+/// Lines end in CR LF and are written in Windows-1252, as the printers and programs behind these files expect.
+class TextOutput
+{
+public:
+    TextOutput() = default;
+    ~TextOutput();
+    TextOutput(const TextOutput &) = delete;
+    TextOutput &operator=(const TextOutput &) = delete;
+
+    /// Opens a file, or the device of LPT1 to LPT9. Raises DeviceUnavailable or PathAccess; a port name never
+    /// becomes a file.
+    void Open(const QString &name);
+    /// Writes one line. Raises when nothing is open or the device refuses.
+    void Print(const QString &line = {});
+    /// Raises when the last bytes could not be written; closed in any case.
+    void Close();
+    bool isOpen() const { return m_file.isOpen(); }
+
+private:
+    QFile m_file;
+};

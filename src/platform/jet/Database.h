@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/jet/Recordset.h"
+#include "platform/jet/Schema.h"
+
+#include <QList>
+#include <QStringList>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+constexpr int dbOpenDynaset = 2;
+constexpr int dbOpenForwardOnly = 8;
+constexpr int dbSeeChanges = 512;
+
+using RecordsetHandle = std::shared_ptr<Recordset>;
+
+/// An open data file. All operations raise a RunTimeError when the file, the statement or a value is at fault.
+class Database
+{
+public:
+    RecordsetHandle OpenRecordset(const QString &sql, int type = dbOpenForwardOnly, int options = 0);
+    void Execute(const QString &sql);
+    QList<TableDef> TableDefs() const;
+    void Close();
+
+    /// Number of the last schema step that ran on this file; 0 for a new one.
+    int schemaVersion() const;
+    /// Runs the steps that this file has not seen, each in one transaction with its number.
+    void applySchema(const QList<SchemaStep> &steps);
+    /// Groups the statements of a tool that fills a file; a terminal's statements each stand alone.
+    void inTransaction(const std::function<void()> &body);
+    /// Faults that the engine finds in the file; empty when it is sound.
+    QStringList checkIntegrity() const;
+    /// Writes a consistent copy with the same password while others work on the file.
+    void backupTo(const QString &path) const;
+};
+
+using DatabaseHandle = std::shared_ptr<Database>;

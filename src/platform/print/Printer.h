@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/print/RecordedPage.h"
+
+#include <QStringList>
+
+/// Units of a position on the sheet.
+enum class ScaleMode {
+    Twips,      ///< 1/1440 inch
+    Characters, ///< 120 twips across, 240 twips down
+};
+
+/// The printer in force. Pages are recorded as texts and boxes, and painted once, when the document ends.
+///
+/// With no printer installed the document becomes a PDF in the folder for printouts, named after the document, and is
+/// shown by the desktop.
+class Printer
+{
+public:
+    static Printer &current();
+
+    QString DeviceName() const { return m_deviceName; }
+    void setDeviceName(const QString &name) { m_deviceName = name; }
+
+    /// What the printout is, for the print queue and for the name of a PDF.
+    void setDocumentName(const QString &name) { m_documentName = name; }
+
+    void setFontName(const QString &name);
+    void setFontSize(double points);
+    void setFontBold(bool bold);
+    void setScaleMode(ScaleMode mode) { m_scaleMode = mode; }
+
+    /// Page dimensions of the current paper, in twips.
+    int PageWidth() const { return m_pageWidth; }
+    int PageHeight() const { return m_pageHeight; }
+    void setPageSize(int widthTwips, int heightTwips);
+
+    double CurrentX() const { return m_currentX; }
+    double CurrentY() const { return m_currentY; }
+    void setCurrentX(double x) { m_currentX = x; }
+    void setCurrentY(double y) { m_currentY = y; }
+
+    /// Puts a text at the current place; the place goes to the start of the next line, or stays behind the text.
+    void Print(const QString &text, bool newLine = true);
+    /// Fills a box given in the current scale.
+    void FillBox(const QRectF &box);
+
+    void NewPage();
+    /// Prints what was recorded. Raises PrinterError when the device refuses; the record is gone in any case.
+    void EndDoc();
+    /// Forgets what was recorded.
+    void KillDoc();
+
+private:
+    QString m_deviceName;
+    QString m_documentName;
+    QFont m_font;
+    ScaleMode m_scaleMode = ScaleMode::Twips;
+    int m_pageWidth = 11906; ///< A4
+    int m_pageHeight = 16838;
+    double m_currentX = 0;
+    double m_currentY = 0;
+    QList<RecordedPage> m_pages;
+};
+
+/// Device names of the installed printers, in the system's order.
+QStringList Printers();

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QFont>
+#include <QList>
+#include <QRectF>
+#include <QString>
+
+/// A text at a place, in twips from the sheet's upper left corner; the place is the text's upper left corner.
+struct RecordedText
+{
+    QPointF place;
+    QString text;
+    QFont font;
+};
+
+/// A filled box, in twips.
+struct RecordedBox
+{
+    QRectF box;
+};
+
+/// What stands on one sheet, kept until the document ends.
+struct RecordedPage
+{
+    QList<RecordedText> texts;
+    QList<RecordedBox> boxes;
+
+    bool isEmpty() const { return texts.isEmpty() && boxes.isEmpty(); }
+};

@@ -1,0 +1,1 @@
+#include "platform/text/Dates.h"

@@ -1,0 +1,1 @@
+#include "platform/text/Numbers.h"

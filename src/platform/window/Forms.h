@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/window/Form.h"
+
+#include <QList>
+
+#include <memory>
+
+/// The collection of loaded windows, in the order in which they were loaded.
+class Forms
+{
+public:
+    static QList<Form *> loaded();
+
+    /// The one window of this kind, made and loaded when it isn't there yet.
+    template <typename Window>
+    static Window &use()
+    {
+        for (Form *form : loaded())
+            if (auto *window = qobject_cast<Window *>(form))
+                return *window;
+        return static_cast<Window &>(adopt(std::make_unique<Window>()));
+    }
+
+private:
+    friend class Form;
+    friend void DoEvents();
+
+    static Form &adopt(std::unique_ptr<Form> form);
+    static void retire(Form *form);
+};
+
+/// Lets the events run that wait; a routine may be entered again meanwhile.
+void DoEvents();

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label that tells of a change of its caption.
+class Label : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit Label(QWidget *parent = nullptr);
+
+    QString Caption() const { return text(); }
+    /// Fires `Change` when the caption differs from the one before.
+    void setCaption(const QString &caption);
+
+signals:
+    void Change();
+    void Click();
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
+};
