@@ -1,1 +1,6 @@
 #include "configuration/Globais.h"
+
+QString CaminhoBD;
+QString NomeIdioma;
+QString SimboloMoeda;
+const QString FormatoData;
