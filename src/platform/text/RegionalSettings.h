@@ -7,7 +7,7 @@
 /// The computer's regional settings, the one place from which texts, numbers and dates take them.
 struct RegionalSettings
 {
-    explicit RegionalSettings(const QLocale &locale);
+    explicit RegionalSettings(const QLocale &region);
 
     QLocale locale;
     QChar decimalSeparator;
