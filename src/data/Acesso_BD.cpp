@@ -88,6 +88,14 @@ void Abrir_Banco_Principal()
     Abrir_BD(CaminhoBD, 0, 3, textoConexao(), BancoPrincipal);
 }
 
+void executeStatement(const QString &sql)
+{
+    Abrir_Banco_Principal();
+    if (!BancoPrincipal)
+        throw RunTimeError(ErrorNumber::ObjectNotSet, "The data file is not open.");
+    BancoPrincipal->Execute(sql);
+}
+
 RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int, int)
 {
     const bool wasOpen = prepareQuery(target, handle);

@@ -23,6 +23,9 @@ DatabaseHandle Abrir_BD(QString &path, int, int, const QString &connect, Databas
 /// Opens the main handle at `CaminhoBD` when it is empty.
 void Abrir_Banco_Principal();
 
+/// Runs a writing statement on the main handle. Raises when it fails, and when no file is open.
+void executeStatement(const QString &sql);
+
 /// Closes the target first, opens an empty handle, and runs a query to be read forward; empty on failure.
 RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int = 2, int = 512);
 RecordsetHandle Abrir_Recordset_Opcoes(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int type,

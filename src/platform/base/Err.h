@@ -23,11 +23,13 @@ private:
 /// Numbers of the failures that the program knows by their number.
 namespace ErrorNumber {
 constexpr int InvalidProcedureCall = 5;
+constexpr int Overflow = 6;
 constexpr int TypeMismatch = 13;
 constexpr int BadFileName = 52;
 constexpr int FileNotFound = 53;
 constexpr int DeviceUnavailable = 68;
 constexpr int PathAccess = 75;
+constexpr int ObjectNotSet = 91;
 constexpr int InvalidUseOfNull = 94;
 constexpr int SubscriptOutOfRange = 381;
 constexpr int InvalidPicture = 481;
