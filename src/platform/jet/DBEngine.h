@@ -19,7 +19,8 @@ public:
     static DatabaseHandle CreateDatabase(const QString &path, const QString &connect);
     /// Raises for a file that the engine cannot mend.
     static void RepairDatabase(const QString &path);
-    /// Writes a compacted copy to a path that does not exist yet; `connect` holds both files' password behind a locale text.
+    /// Writes a compacted copy to a path that does not exist yet; `connect` holds both files' password behind a locale
+    /// text.
     static void CompactDatabase(const QString &from, const QString &to, const QString &locale, bool options,
                                 const QString &connect);
 };

@@ -4,8 +4,8 @@
 #include "platform/jet/Schema.h"
 
 #include <QList>
-#include <QStringList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -16,10 +16,18 @@ constexpr int dbSeeChanges = 512;
 
 using RecordsetHandle = std::shared_ptr<Recordset>;
 
+class OpenFile;
+
 /// An open data file. All operations raise a RunTimeError when the file, the statement or a value is at fault.
 class Database
 {
 public:
+    explicit Database(std::unique_ptr<OpenFile> file);
+    ~Database();
+    Database(const Database &) = delete;
+    Database &operator=(const Database &) = delete;
+
+    /// Every type reads the whole answer at once and forward only.
     RecordsetHandle OpenRecordset(const QString &sql, int type = dbOpenForwardOnly, int options = 0);
     void Execute(const QString &sql);
     QList<TableDef> TableDefs() const;
@@ -35,6 +43,11 @@ public:
     QStringList checkIntegrity() const;
     /// Writes a consistent copy with the same password while others work on the file.
     void backupTo(const QString &path) const;
+
+private:
+    OpenFile &file() const;
+
+    std::unique_ptr<OpenFile> m_file;
 };
 
 using DatabaseHandle = std::shared_ptr<Database>;

@@ -4,7 +4,8 @@
 #include <QString>
 
 /// How a field is declared in a data file.
-enum class FieldType {
+enum class FieldType
+{
     Number,
     Text,
     TextAnyCase, ///< text whose equality ignores case
@@ -18,7 +19,8 @@ struct FieldDef
 };
 
 /// What a key does with a number that is taken already.
-enum class KeyKind {
+enum class KeyKind
+{
     None,
     Refuse,   ///< the row is refused
     Renumber, ///< the row gets the next free number, in the same step; for rows that nobody addresses by number

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/jet/Catalogue.h"
+#include "platform/jet/RowStore.h"
+#include "platform/jet/Statement.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+/// Which file a session works on, and how.
+struct FileAccess
+{
+    QString path;
+    QString password;
+    bool exclusive = false;
+    bool readOnly = false;
+};
+
+/// One open data file behind a storage engine. Statements come bound to the file's catalogue. Every operation raises a
+/// RunTimeError when the file, the statement or a value is at fault.
+class EngineSession
+{
+public:
+    EngineSession() = default;
+    virtual ~EngineSession() = default;
+    EngineSession(const EngineSession &) = delete;
+    EngineSession &operator=(const EngineSession &) = delete;
+
+    /// False once the file is out of reach, damaged or exchanged for another: the session is of no more use.
+    virtual bool isAlive() const = 0;
+
+    virtual Catalogue readCatalogue() = 0;
+    /// Reads the whole answer, so that no lock stays behind.
+    virtual RowStore query(const SelectStatement &select) = 0;
+    virtual void execute(const Statement &statement) = 0;
+
+    virtual void begin() = 0;
+    virtual void commit() = 0;
+    virtual void rollback() = 0;
+
+    virtual int schemaVersion() = 0;
+    virtual void setSchemaVersion(int version) = 0;
+    virtual void createTable(const TableDef &table) = 0;
+
+    /// Faults in the file; empty when it is sound.
+    virtual QStringList faults() = 0;
+    /// Mends what can be made anew from the file's own rows; raises when faults stay.
+    virtual void repair() = 0;
+    /// Gives unused room back.
+    virtual void compact() = 0;
+    virtual void backupTo(const QString &path) = 0;
+};
+
+/// A storage engine: the one place that decides how a data file is kept.
+class Engine
+{
+public:
+    Engine() = default;
+    virtual ~Engine() = default;
+    Engine(const Engine &) = delete;
+    Engine &operator=(const Engine &) = delete;
+
+    /// Never makes a file. Raises CannotOpenFile or UnrecognisedFormat.
+    virtual std::unique_ptr<EngineSession> open(const FileAccess &access) = 0;
+    /// Makes a new, empty file; raises when the path exists.
+    virtual void create(const QString &path, const QString &password) = 0;
+};
+
+/// The engine behind all data files of this program.
+Engine &storageEngine();

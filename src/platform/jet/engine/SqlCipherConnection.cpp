@@ -1,0 +1,191 @@
+#include "platform/jet/engine/SqlCipherConnection.h"
+
+#include "platform/base/Err.h"
+#include "platform/jet/engine/SqlCipherFunctions.h"
+
+#include <QFile>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+namespace {
+
+/// Statements with lists of differing lengths must not fill the memory.
+constexpr std::size_t mostPrepared = 64;
+/// Milliseconds that a statement waits for another terminal before it fails.
+constexpr int longestWait = 15'000;
+constexpr int longestStep = 15;
+
+/// A regular file at the path. The live file is looked at by its name alone: closing any descriptor of it drops the
+/// locks that this process holds.
+struct stat statOf(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0 || !S_ISREG(status.st_mode))
+        throw RunTimeError(ErrorNumber::CannotOpenFile, QString("\"%1\" cannot be opened.").arg(path));
+    return status;
+}
+
+bool meansLost(int code)
+{
+    const int primary = code & 0xFF;
+    return primary == SQLITE_IOERR || primary == SQLITE_CANTOPEN || primary == SQLITE_CORRUPT ||
+           primary == SQLITE_NOTADB || code == SQLITE_READONLY_DBMOVED;
+}
+
+int errorNumber(int code)
+{
+    if (code == SQLITE_READONLY_DBMOVED)
+        return ErrorNumber::DiskError;
+    switch (code & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return ErrorNumber::FileLocked;
+    case SQLITE_READONLY:
+        return ErrorNumber::ReadOnlyDatabase;
+    case SQLITE_IOERR:
+    case SQLITE_FULL:
+        return ErrorNumber::DiskError;
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+        return ErrorNumber::CannotOpenFile;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return ErrorNumber::UnrecognisedFormat;
+    case SQLITE_CONSTRAINT:
+        return ErrorNumber::DuplicateKey;
+    case SQLITE_MISMATCH:
+        return ErrorNumber::TypeMismatch;
+    default:
+        return ErrorNumber::BadSql;
+    }
+}
+
+} // namespace
+
+SqlCipherRun::~SqlCipherRun()
+{
+    sqlite3_reset(m_statement);
+    sqlite3_clear_bindings(m_statement);
+}
+
+SqlCipherConnection::SqlCipherConnection(const FileAccess &access, Mode mode)
+    : m_access(access), m_chance(static_cast<unsigned>(::getpid()))
+{
+    if (mode == Mode::Open) {
+        const struct stat status = statOf(access.path);
+        if (status.st_size == 0)
+            throw RunTimeError(ErrorNumber::UnrecognisedFormat, QString("\"%1\" is empty.").arg(access.path));
+        m_device = status.st_dev;
+        m_inode = status.st_ino;
+    }
+    openHandle(mode);
+    setUp(mode);
+}
+
+void SqlCipherConnection::openHandle(Mode mode)
+{
+    int flags = m_access.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+    if (mode == Mode::Create)
+        flags |= SQLITE_OPEN_CREATE;
+    sqlite3 *handle = nullptr;
+    const int code =
+        sqlite3_open_v2(QFile::encodeName(m_access.path).constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    m_handle.reset(handle);
+    if (code != SQLITE_OK)
+        throw RunTimeError(ErrorNumber::CannotOpenFile, QString("\"%1\" cannot be opened.").arg(m_access.path));
+}
+
+void SqlCipherConnection::setUp(Mode mode)
+{
+    sqlite3_extended_result_codes(handle(), 1);
+    sqlite3_busy_handler(handle(), waitForOthers, this);
+    // Files of version 4 of the library have another layout by default; the version here does not know the pragma.
+    run("PRAGMA cipher_default_compatibility = 3");
+    const QByteArray key = m_access.password.toUtf8();
+    if (!key.isEmpty() && sqlite3_key(handle(), key.constData(), static_cast<int>(key.size())) != SQLITE_OK)
+        raise(SQLITE_NOTADB);
+    registerSqlCipherFunctions(handle());
+
+    // A first read tells a data file with this password from all else.
+    if (mode == Mode::Open)
+        run("SELECT count(*) FROM sqlite_master");
+    // A write-ahead log would not work over a network folder.
+    run("PRAGMA journal_mode = DELETE");
+    run("PRAGMA synchronous = EXTRA");
+    run("PRAGMA temp_store = MEMORY");
+    run("PRAGMA cache_size = -16384");
+    if (m_access.exclusive) {
+        run("PRAGMA locking_mode = EXCLUSIVE");
+        run("BEGIN EXCLUSIVE");
+        run("COMMIT");
+    }
+}
+
+void SqlCipherConnection::requireSameFile()
+{
+    if (!m_lost) {
+        struct stat status = {};
+        const bool found = ::stat(QFile::encodeName(m_access.path).constData(), &status) == 0;
+        m_lost = !found || status.st_dev != m_device || status.st_ino != m_inode || status.st_size == 0;
+    }
+    if (m_lost)
+        throw RunTimeError(ErrorNumber::DiskError, QString("\"%1\" is no longer there.").arg(m_access.path));
+}
+
+void SqlCipherConnection::run(const std::string &sql)
+{
+    const int code = sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr);
+    if (code != SQLITE_OK)
+        raise(code);
+}
+
+sqlite3_stmt *SqlCipherConnection::prepare(const std::string &sql)
+{
+    const auto known = m_prepared.find(sql);
+    if (known != m_prepared.end())
+        return known->second.get();
+    sqlite3_stmt *statement = nullptr;
+    const int code = sqlite3_prepare_v2(handle(), sql.c_str(), static_cast<int>(sql.size()), &statement, nullptr);
+    if (code != SQLITE_OK)
+        raise(code);
+    if (m_prepared.size() >= mostPrepared)
+        m_prepared.clear();
+    m_prepared.emplace(sql, statement);
+    return statement;
+}
+
+bool SqlCipherConnection::step(sqlite3_stmt *statement)
+{
+    const int code = sqlite3_step(statement);
+    if (code == SQLITE_ROW)
+        return true;
+    if (code != SQLITE_DONE)
+        raise(code);
+    return false;
+}
+
+void SqlCipherConnection::raise(int code)
+{
+    if (meansLost(code))
+        m_lost = true;
+    throw RunTimeError(errorNumber(code), QString::fromUtf8(sqlite3_errmsg(handle())));
+}
+
+// The steps differ from terminal to terminal, so that two of them do not keep meeting at the same lock.
+int SqlCipherConnection::waitForOthers(void *connection, int attempt)
+{
+    auto *self = static_cast<SqlCipherConnection *>(connection);
+    if (attempt == 0)
+        self->m_waited = 0;
+    if (self->m_waited >= longestWait)
+        return 0;
+    const int step = std::uniform_int_distribution<int>(1, std::min(longestStep, attempt + 2))(self->m_chance);
+    std::this_thread::sleep_for(std::chrono::milliseconds(step));
+    self->m_waited += step;
+    return 1;
+}

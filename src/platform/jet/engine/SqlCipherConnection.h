@@ -1,0 +1,79 @@
+#pragma once
+
+#include "platform/jet/engine/Engine.h"
+
+#include <sqlite3.h>
+#include <sys/types.h>
+
+#include <memory>
+#include <random>
+#include <string>
+#include <unordered_map>
+
+/// A prepared statement while it runs; afterwards it waits in its connection for its next run, holding no lock.
+class SqlCipherRun
+{
+public:
+    explicit SqlCipherRun(sqlite3_stmt *statement) : m_statement(statement) {}
+    ~SqlCipherRun();
+    SqlCipherRun(const SqlCipherRun &) = delete;
+    SqlCipherRun &operator=(const SqlCipherRun &) = delete;
+
+    operator sqlite3_stmt *() const { return m_statement; }
+
+private:
+    sqlite3_stmt *m_statement;
+};
+
+/// A handle on one encrypted file: opening, waiting for other terminals, errors, and the watch over the file's place.
+class SqlCipherConnection
+{
+public:
+    enum class Mode
+    {
+        Open,
+        Create
+    };
+
+    explicit SqlCipherConnection(const FileAccess &access, Mode mode = Mode::Open);
+
+    sqlite3 *handle() const { return m_handle.get(); }
+    const FileAccess &access() const { return m_access; }
+    bool isLost() const { return m_lost; }
+    /// Raises when the path no longer leads to the file that was opened.
+    void requireSameFile();
+
+    /// Runs a statement of the engine's own.
+    void run(const std::string &sql);
+    /// A statement ready to be bound and stepped.
+    sqlite3_stmt *prepare(const std::string &sql);
+    /// True at a row, false at the end.
+    bool step(sqlite3_stmt *statement);
+    [[noreturn]] void raise(int code);
+
+private:
+    struct CloseHandle
+    {
+        void operator()(sqlite3 *handle) const { sqlite3_close_v2(handle); }
+    };
+    struct Finalize
+    {
+        void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
+    };
+    using Handle = std::unique_ptr<sqlite3, CloseHandle>;
+    using Prepared = std::unique_ptr<sqlite3_stmt, Finalize>;
+
+    void openHandle(Mode mode);
+    void setUp(Mode mode);
+    static int waitForOthers(void *connection, int attempt);
+
+    FileAccess m_access;
+    dev_t m_device = 0;
+    ino_t m_inode = 0;
+    bool m_lost = false;
+    std::minstd_rand m_chance;
+    int m_waited = 0;
+    Handle m_handle;
+    /// By their text. Declared behind the handle, so that they go first.
+    std::unordered_map<std::string, Prepared> m_prepared;
+};

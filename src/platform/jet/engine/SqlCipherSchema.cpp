@@ -1,0 +1,143 @@
+#include "platform/jet/engine/SqlCipherSchema.h"
+
+#include "platform/jet/engine/SqlCipherRenderer.h"
+
+namespace {
+
+/// A boolean field is never Null: one that an insert leaves out is false.
+const char *declaration(FieldType type)
+{
+    switch (type) {
+    case FieldType::Number:
+        return "NUMERIC";
+    case FieldType::Boolean:
+        return "BOOLEAN NOT NULL DEFAULT 0";
+    case FieldType::TextAnyCase:
+        return "TEXT_ANY_CASE";
+    case FieldType::Text:
+        break;
+    }
+    return "TEXT";
+}
+
+/// Files of other makers declare their numbers in many ways.
+FieldType declaredType(const QString &declaration)
+{
+    const QString upper = declaration.toUpper();
+    if (upper.contains("BOOL"))
+        return FieldType::Boolean;
+    if (upper.contains("ANY_CASE"))
+        return FieldType::TextAnyCase;
+    for (const char *number : {"INT", "NUM", "REAL", "FLOA", "DOUB", "DEC"}) {
+        if (upper.contains(number))
+            return FieldType::Number;
+    }
+    return FieldType::Text;
+}
+
+QString keyIndexName(const QString &table)
+{
+    return table + " key";
+}
+
+QString textColumn(sqlite3_stmt *statement, int column)
+{
+    const void *text = sqlite3_column_text(statement, column);
+    return QString::fromUtf8(static_cast<const char *>(text), sqlite3_column_bytes(statement, column));
+}
+
+template <typename Row>
+void forEachRow(SqlCipherConnection &connection, const std::string &sql, Row row)
+{
+    const SqlCipherRun run(connection.prepare(sql));
+    while (connection.step(run))
+        row(run);
+}
+
+void readFields(SqlCipherConnection &connection, TableDef &table)
+{
+    forEachRow(connection, "PRAGMA table_info(" + quotedName(table.Name) + ")", [&table](sqlite3_stmt *row) {
+        table.Fields.append({textColumn(row, 1), declaredType(textColumn(row, 2))});
+    });
+}
+
+void readIndexes(SqlCipherConnection &connection, TableDef &table)
+{
+    struct Index
+    {
+        QString name;
+        bool unique;
+    };
+    QList<Index> indexes;
+    forEachRow(connection, "PRAGMA index_list(" + quotedName(table.Name) + ")", [&indexes](sqlite3_stmt *row) {
+        indexes.prepend({textColumn(row, 1), sqlite3_column_int(row, 2) != 0});
+    });
+    for (const Index &index : indexes) {
+        QStringList fields;
+        forEachRow(connection, "PRAGMA index_info(" + quotedName(index.name) + ")",
+                   [&fields](sqlite3_stmt *row) { fields.append(textColumn(row, 2)); });
+        if (index.name == keyIndexName(table.Name)) {
+            table.Key = index.unique ? KeyKind::Refuse : KeyKind::Renumber;
+            table.KeyField = fields.value(0);
+        } else if (fields.size() == 1) {
+            table.IndexedFields.append(fields.first());
+        }
+    }
+}
+
+void createIndex(SqlCipherConnection &connection, const TableDef &table, const QString &field, const QString &name,
+                 const char *kind)
+{
+    connection.run(std::string("CREATE ") + kind + " " + quotedName(name) + " ON " + quotedName(table.Name) + " (" +
+                   quotedName(field) + ")");
+}
+
+// Two terminals that read the same maximum both store their row. The trigger lies in the file, so it serves every
+// program that writes there, and the number is found under the lock of the insert itself.
+void createRenumbering(SqlCipherConnection &connection, const TableDef &table)
+{
+    const std::string name = quotedName(table.Name);
+    const std::string key = quotedName(table.KeyField);
+    connection.run("CREATE TRIGGER " + quotedName(table.Name + " renumber") + " AFTER INSERT ON " + name +
+                   " WHEN EXISTS (SELECT 1 FROM " + name + " WHERE " + key + " = NEW." + key +
+                   " AND rowid <> NEW.rowid) BEGIN UPDATE " + name + " SET " + key + " = (SELECT max(" + key +
+                   ") FROM " + name + ") + 1 WHERE rowid = NEW.rowid; END");
+}
+
+} // namespace
+
+Catalogue readSqlCipherCatalogue(SqlCipherConnection &connection)
+{
+    QList<TableDef> tables;
+    forEachRow(connection,
+               "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite~_%' ESCAPE '~'",
+               [&tables](sqlite3_stmt *row) {
+                   TableDef table;
+                   table.Name = textColumn(row, 0);
+                   tables.append(table);
+               });
+    for (TableDef &table : tables) {
+        readFields(connection, table);
+        readIndexes(connection, table);
+    }
+    return Catalogue(tables);
+}
+
+void createSqlCipherTable(SqlCipherConnection &connection, const TableDef &table)
+{
+    std::string sql = "CREATE TABLE " + quotedName(table.Name);
+    const char *separator = " (";
+    for (const FieldDef &field : table.Fields) {
+        sql += separator + quotedName(field.Name) + " " + declaration(field.Type);
+        separator = ", ";
+    }
+    connection.run(sql + ")");
+
+    if (table.Key != KeyKind::None)
+        createIndex(connection, table, table.KeyField, keyIndexName(table.Name),
+                    table.Key == KeyKind::Refuse ? "UNIQUE INDEX" : "INDEX");
+    if (table.Key == KeyKind::Renumber)
+        createRenumbering(connection, table);
+    for (const QString &field : table.IndexedFields)
+        createIndex(connection, table, field, table.Name + " " + field, "INDEX");
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "platform/jet/Catalogue.h"
+#include "platform/jet/engine/SqlCipherConnection.h"
+
+/// The declared column types, index and trigger names of a file carry the whole description of its tables.
+
+Catalogue readSqlCipherCatalogue(SqlCipherConnection &connection);
+void createSqlCipherTable(SqlCipherConnection &connection, const TableDef &table);

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "platform/base/Err.h"
+#include "platform/jet/DBEngine.h"
+
+#include <QTemporaryDir>
+
+/// Password of every data file in these tests.
+inline const QString connectText = ";PWD=segredo'1";
+
+/// A real encrypted file in a folder of its own, with a few tables of every kind.
+class DataFile
+{
+public:
+    DataFile()
+    {
+        db = DBEngine::CreateDatabase(path(), connectText);
+        db->applySchema(steps());
+    }
+
+    QString path(const QString &name = "Dados.mdb") const { return m_folder.filePath(name); }
+    DatabaseHandle open() const { return openAt(path()); }
+
+    static DatabaseHandle openAt(const QString &path)
+    {
+        return DBEngine::Workspaces(0).OpenDatabase(path, false, false, connectText);
+    }
+
+    static QList<SchemaStep> steps()
+    {
+        using enum FieldType;
+        return {{1,
+                 {{"Produtos",
+                   {{"Codigo", Number},
+                    {"Descrição", Text},
+                    {"Quantidade", Text},
+                    {"Valor", Text},
+                    {"Servico", Boolean},
+                    {"Categoria", TextAnyCase}},
+                   KeyKind::Refuse,
+                   "Codigo",
+                   {"Descrição"}},
+                  {"Vendas",
+                   {{"Codigo", Number}, {"Nome", Text}, {"Paga", Boolean}},
+                   KeyKind::Renumber,
+                   "Codigo",
+                   {"Nome"}}}}};
+    }
+
+    /// Rows of a query, their values joined by "|" and the rows by a blank; Null is "~".
+    static QString answer(const DatabaseHandle &database, const QString &sql)
+    {
+        QStringList rows;
+        for (const RecordsetHandle rs = database->OpenRecordset(sql); !rs->Eof(); rs->MoveNext()) {
+            QStringList values;
+            for (int i = 0; i < rs->FieldCount(); ++i)
+                values.append(rs->Fields(i).isNull() ? "~" : rs->Fields(i).text());
+            rows.append(values.join('|'));
+        }
+        return rows.join(' ');
+    }
+    QString answer(const QString &sql) const { return answer(db, sql); }
+
+    DatabaseHandle db;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// Number of the error that an operation raises; 0 for none.
+template <typename Operation>
+int errorOf(Operation operation)
+{
+    Err::Clear();
+    OnErrorResumeNext(operation);
+    return Err::Number();
+}
