@@ -1,1 +1,51 @@
 #include "platform/window/Application.h"
+
+#include "platform/base/Err.h"
+#include "platform/base/Machine.h"
+#include "platform/window/Prompts.h"
+
+#include <QLibraryInfo>
+#include <QPalette>
+#include <QPrinterInfo>
+#include <QTranslator>
+
+#include <cstdlib>
+#include <utility>
+
+Application::Application(int &argc, char **argv) : QApplication(argc, argv)
+{
+    setApplicationName("morvelane-auxiliar");
+    setApplicationDisplayName("Morvelane – Módulo Auxiliar");
+    // The program ends with its main window, whichever windows are open then.
+    setQuitOnLastWindowClosed(false);
+    setStyle("fusion");
+
+    auto *translator = new QTranslator(this);
+    if (translator->load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        installTranslator(translator);
+
+    // Asked when a window needs them: looking for printers may wait for the network.
+    Machine::current().printerNames = [] { return QPrinterInfo::availablePrinterNames(); };
+    Machine::current().defaultPrinterName = [] { return QPrinterInfo::defaultPrinterName(); };
+}
+
+bool Application::notify(QObject *receiver, QEvent *event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const RunTimeError &error) {
+        static bool ending = false;
+        if (std::exchange(ending, true))
+            return false;
+        MsgBox(QString("Erro em tempo de execução '%1':\n\n%2").arg(error.Number()).arg(error.Description()),
+               vbCritical);
+    }
+    // At once: routines that wait below must not run on, and what was executed stays.
+    std::_Exit(EXIT_FAILURE);
+}
+
+bool isDarkDesktop()
+{
+    const QPalette palette = QGuiApplication::palette();
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}

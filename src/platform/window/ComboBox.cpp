@@ -1,1 +1,90 @@
 #include "platform/window/ComboBox.h"
+
+#include "platform/window/KeyCodes.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QWheelEvent>
+
+ComboBox::ComboBox(QWidget *parent) : QComboBox(parent)
+{
+    setInsertPolicy(NoInsert);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QComboBox::activated, this, [this] {
+        // QComboBox looks the typed text up when the focus leaves, which nobody picked.
+        if (!m_leaving)
+            emit Click();
+    });
+}
+
+void ComboBox::setEditable(bool editable)
+{
+    QComboBox::setEditable(editable);
+    if (editable) {
+        setCompleter(nullptr);
+        lineEdit()->installEventFilter(this);
+    }
+}
+
+bool ComboBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == lineEdit() && event->type() == QEvent::KeyPress) {
+        keyPressEvent(static_cast<QKeyEvent *>(event));
+        return true;
+    }
+    if (watched == lineEdit() && event->type() == QEvent::KeyRelease) {
+        keyReleaseEvent(static_cast<QKeyEvent *>(event));
+        return true;
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+void ComboBox::keyPressEvent(QKeyEvent *event)
+{
+    if (int code = keyCode(*event); code != 0) {
+        emit KeyDown(code);
+        if (code == 0) {
+            event->accept();
+            return;
+        }
+    }
+    filterKey(
+        event, [this](int &ascii) { emit KeyPress(ascii); },
+        [this](QKeyEvent *key) {
+            // Enter belongs to the window; QComboBox would take it for a pick of the typed text.
+            if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+                key->ignore();
+            else
+                QComboBox::keyPressEvent(key);
+        });
+}
+
+void ComboBox::keyReleaseEvent(QKeyEvent *event)
+{
+    QComboBox::keyReleaseEvent(event);
+    const int code = keyCode(*event);
+    if (code != 0 && !event->isAutoRepeat())
+        emit KeyUp(code);
+}
+
+void ComboBox::inputMethodEvent(QInputMethodEvent *event)
+{
+    filterCommit(event, [this](int &code) { emit KeyPress(code); });
+    QComboBox::inputMethodEvent(event);
+}
+
+void ComboBox::focusOutEvent(QFocusEvent *event)
+{
+    const QScopedValueRollback leaving(m_leaving, true);
+    QComboBox::focusOutEvent(event);
+}
+
+void ComboBox::wheelEvent(QWheelEvent *event)
+{
+    // A wheel that scrolls past must not change what was chosen.
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}

@@ -1,1 +1,239 @@
 #include "platform/window/FlexGrid.h"
+
+#include "platform/base/Err.h"
+#include "platform/window/FlexGridHeadings.h"
+#include "platform/window/FlexGridModel.h"
+
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int cannotRemoveLastRow = 30015;
+constexpr int cellMargin = 6;
+
+Qt::Alignment alignmentOf(QChar mark)
+{
+    return mark == '^' ? Qt::AlignHCenter : mark == '>' ? Qt::AlignRight : Qt::AlignLeft;
+}
+
+} // namespace
+
+FlexGrid::FlexGrid(QWidget *parent) : QTableView(parent), m_model(new FlexGridModel(this))
+{
+    setModel(m_model);
+    setHorizontalHeader(new FlexGridHeadings(this));
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &FlexGrid::headingClicked);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    // The selection is ours: QTableView knows no anchor that the program could read or set.
+    setSelectionMode(NoSelection);
+    setSelectionBehavior(SelectRows);
+    setEditTriggers(NoEditTriggers);
+    setAutoScroll(false);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setHorizontalScrollMode(ScrollPerPixel);
+    fitRowsToFont();
+}
+
+int FlexGrid::Rows() const
+{
+    return m_model->Rows();
+}
+
+void FlexGrid::setRows(int rows)
+{
+    if (rows < 1)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
+    m_model->setRows(rows);
+    adaptSelection();
+}
+
+int FlexGrid::Cols() const
+{
+    return m_model->Cols();
+}
+
+void FlexGrid::setCols(int cols)
+{
+    if (cols < 1)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
+    QList<int> widths;
+    for (int col = 0; col < std::min(cols, Cols()); ++col)
+        widths.append(columnWidth(col));
+    m_model->setCols(cols);
+    for (int col = 0; col < widths.size(); ++col)
+        setColumnWidth(col, widths.at(col));
+    adaptSelection();
+}
+
+void FlexGrid::setRow(int row)
+{
+    requireRow(row);
+    select({row, row, Col(), Col()});
+}
+
+void FlexGrid::setRowSel(int row)
+{
+    requireRow(row);
+    select({Row(), row, Col(), ColSel()});
+}
+
+void FlexGrid::setCol(int col)
+{
+    requireCol(col);
+    select({Row(), Row(), col, col});
+}
+
+void FlexGrid::setColSel(int col)
+{
+    requireCol(col);
+    select({Row(), RowSel(), Col(), col});
+}
+
+int FlexGrid::TopRow() const
+{
+    return std::max(rowAt(0), 0) + 1;
+}
+
+void FlexGrid::setTopRow(int row)
+{
+    requireRow(row);
+    if (row == 0)
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
+    // Rows that came just now are in the scroll bar's range only after this.
+    executeDelayedItemsLayout();
+    updateGeometries();
+    verticalScrollBar()->setValue(row - 1);
+}
+
+bool FlexGrid::RowIsVisible(int row) const
+{
+    requireRow(row);
+    if (row == 0)
+        return true;
+    const int top = rowViewportPosition(row - 1);
+    return top + rowHeight(row - 1) > 0 && top < viewport()->height();
+}
+
+QString FlexGrid::TextMatrix(int row, int col) const
+{
+    requireRow(row);
+    requireCol(col);
+    return m_model->text(row, col);
+}
+
+void FlexGrid::setTextMatrix(int row, int col, const QString &text)
+{
+    requireRow(row);
+    requireCol(col);
+    m_model->setText(row, col, text);
+    repaintTexts();
+}
+
+void FlexGrid::setFormatString(const QString &format)
+{
+    m_formatString = format;
+    const QStringList columns = format.split('|');
+    if (columns.size() > Cols())
+        setCols(int(columns.size()));
+    ensurePolished();
+    const QFontMetrics metrics(horizontalHeader()->font());
+    for (int col = 0; col < columns.size(); ++col) {
+        QString heading = columns.at(col);
+        const QChar mark = heading.isEmpty() ? QChar() : heading.front();
+        m_model->setAlignment(col, alignmentOf(mark));
+        if (mark == '<' || mark == '^' || mark == '>')
+            heading.remove(0, 1);
+        m_model->setText(0, col, heading);
+        setColumnWidth(col, metrics.horizontalAdvance(heading) + 2 * cellMargin);
+    }
+    repaintTexts();
+}
+
+void FlexGrid::setCellPicture(const QPixmap &picture)
+{
+    m_model->setPicture(Row(), Col(), picture);
+    repaintTexts();
+}
+
+QPixmap FlexGrid::CellPicture() const
+{
+    return m_model->picture(Row(), Col());
+}
+
+void FlexGrid::Clear()
+{
+    m_model->clear();
+    repaintTexts();
+}
+
+void FlexGrid::RemoveItem(int row)
+{
+    requireRow(row);
+    if (row == 0 || Rows() == 2)
+        throw RunTimeError(cannotRemoveLastRow, "The headings and the last row can't be removed");
+    m_model->removeRow(row);
+    adaptSelection();
+}
+
+void FlexGrid::requireRow(int row) const
+{
+    if (row < 0 || row >= Rows())
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, QString("Subscript out of range (row %1)").arg(row));
+}
+
+void FlexGrid::requireCol(int col) const
+{
+    if (col < 0 || col >= Cols())
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange, QString("Subscript out of range (column %1)").arg(col));
+}
+
+void FlexGrid::select(const Selection &selection)
+{
+    if (selection == m_selection)
+        return;
+    m_selection = selection;
+    showSelection();
+    emit SelChange();
+}
+
+void FlexGrid::showSelection()
+{
+    if (Row() == 0)
+        return;
+    const int top = std::max(std::min(Row(), RowSel()), 1);
+    const int bottom = std::max(Row(), RowSel());
+    const QItemSelection rows(m_model->index(top - 1, 0), m_model->index(bottom - 1, Cols() - 1));
+    selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+    selectionModel()->setCurrentIndex(m_model->index(std::max(RowSel(), 1) - 1, Col()), QItemSelectionModel::NoUpdate);
+}
+
+/// Brings the selection back among the rows and columns that are left.
+void FlexGrid::adaptSelection()
+{
+    const int lastRow = Rows() - 1;
+    const int lastCol = Cols() - 1;
+    const int firstRow = std::min(lastRow, 1);
+    m_selection.row = std::clamp(m_selection.row, firstRow, lastRow);
+    m_selection.rowSel = std::clamp(m_selection.rowSel, firstRow, lastRow);
+    m_selection.col = std::min(m_selection.col, lastCol);
+    m_selection.colSel = std::min(m_selection.colSel, lastCol);
+    showSelection();
+}
+
+void FlexGrid::fitRowsToFont()
+{
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + cellMargin + 2);
+}
+
+void FlexGrid::repaintTexts()
+{
+    viewport()->update();
+    horizontalHeader()->viewport()->update();
+}

@@ -8,10 +8,14 @@ class FlexGridModel;
 /// The flexible grid: texts in rows and columns, row 0 being the headings.
 ///
 /// It knows a current cell (`Row`, `Col`) and the opposite corner of the selection (`RowSel`, `ColSel`); both are row
-/// selections on screen. Rows and cells that aren't there raise SubscriptOutOfRange.
+/// selections on screen. Rows and cells that aren't there raise SubscriptOutOfRange. A grid starts with two columns and
+/// the headings alone; a window whose design holds more sets `Rows` and `Cols` there.
 class FlexGrid : public QTableView
 {
     Q_OBJECT
+    Q_PROPERTY(int Rows READ Rows WRITE setRows)
+    Q_PROPERTY(int Cols READ Cols WRITE setCols)
+    Q_PROPERTY(QString FormatString READ FormatString WRITE setFormatString)
 
 public:
     explicit FlexGrid(QWidget *parent = nullptr);
@@ -22,24 +26,26 @@ public:
     int Cols() const;
     void setCols(int cols);
 
-    int Row() const;
-    /// Moves the current cell and collapses the selection to it. With no row but the headings it is 0.
+    int Row() const { return m_selection.row; }
+    /// Moves the current cell and collapses the selection to it. With no row but the headings it is 0. Row 0 takes
+    /// `CellPicture` to a heading; the rows that look selected stay so.
     void setRow(int row);
-    int RowSel() const;
+    int RowSel() const { return m_selection.rowSel; }
     void setRowSel(int row);
-    int Col() const;
+    int Col() const { return m_selection.col; }
     void setCol(int col);
-    int ColSel() const;
+    int ColSel() const { return m_selection.colSel; }
     void setColSel(int col);
 
     int TopRow() const;
     void setTopRow(int row);
+    /// Whether any part of the row is in view.
     bool RowIsVisible(int row) const;
 
     QString TextMatrix(int row, int col) const;
     void setTextMatrix(int row, int col, const QString &text);
 
-    QString FormatString() const;
+    QString FormatString() const { return m_formatString; }
     /// Columns separated by "|": an optional "<", "^" or ">" for the alignment, then the heading, whose length with its
     /// blanks sizes the column; the last column takes what is left. Columns beyond the text are kept.
     void setFormatString(const QString &format);
@@ -50,16 +56,53 @@ public:
 
     /// Empties all texts and pictures, the headings' too; rows and columns stay.
     void Clear();
+    /// The headings and the last row beside them can't be removed.
     void RemoveItem(int row);
 
+    /// Row and column of the last click.
+    int MouseRow() const { return m_mouseRow; }
+    int MouseCol() const { return m_mouseCol; }
+
 signals:
-    /// The attendant clicked a cell, or a heading (`MouseRow` 0).
+    /// The attendant clicked a cell, or a heading (`MouseRow` 0). A heading gives its column to `Col` and leaves the
+    /// rows as they are.
     void Click();
-    /// The selection changed, by the attendant or by the program.
+    /// The selection changed, by the attendant or by the program. Rows and columns that come or go tell nothing.
     void SelChange();
 
-public:
-    /// Row and column of the last click.
-    int MouseRow() const;
-    int MouseCol() const;
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    struct Selection
+    {
+        int row = 0;
+        int rowSel = 0;
+        int col = 0;
+        int colSel = 0;
+        bool operator==(const Selection &) const = default;
+    };
+
+    void requireRow(int row) const;
+    void requireCol(int col) const;
+    void select(const Selection &selection);
+    void showSelection();
+    void adaptSelection();
+    void moveTo(int row, int col, bool extend);
+    int rowNear(int y) const;
+    void headingClicked(int col);
+    void fitRowsToFont();
+    void repaintTexts();
+
+    FlexGridModel *m_model;
+    Selection m_selection;
+    QString m_formatString;
+    int m_mouseRow = 0;
+    int m_mouseCol = 0;
+    bool m_pressed = false;
 };

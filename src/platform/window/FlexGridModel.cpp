@@ -1,1 +1,124 @@
 #include "platform/window/FlexGridModel.h"
+
+#include <algorithm>
+#include <iterator>
+
+int FlexGridModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rows - 1;
+}
+
+int FlexGridModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_cols;
+}
+
+QVariant FlexGridModel::data(const QModelIndex &index, int role) const
+{
+    const int row = index.row() + 1;
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(row, index.column());
+    case Qt::DecorationRole:
+        if (const QPixmap found = picture(row, index.column()); !found.isNull())
+            return found;
+        return {};
+    case Qt::TextAlignmentRole:
+        return headerData(index.column(), Qt::Horizontal, role);
+    default:
+        return {};
+    }
+}
+
+QVariant FlexGridModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Vertical)
+        return {};
+    if (role == Qt::DisplayRole)
+        return text(0, section);
+    if (role == Qt::TextAlignmentRole) {
+        const auto column = std::size_t(section);
+        const Qt::Alignment alignment = column < m_alignments.size() ? m_alignments[column] : Qt::AlignLeft;
+        return QVariant::fromValue(alignment | Qt::AlignVCenter);
+    }
+    return {};
+}
+
+void FlexGridModel::setRows(int rows)
+{
+    if (rows > m_rows) {
+        beginInsertRows({}, m_rows - 1, rows - 2);
+        m_texts.resize(std::size_t(rows) * std::size_t(m_cols));
+        m_rows = rows;
+        endInsertRows();
+    } else if (rows < m_rows) {
+        beginRemoveRows({}, rows - 1, m_rows - 2);
+        m_texts.resize(std::size_t(rows) * std::size_t(m_cols));
+        m_pictures.erase(m_pictures.lower_bound({rows, 0}), m_pictures.end());
+        m_rows = rows;
+        endRemoveRows();
+    }
+}
+
+void FlexGridModel::setCols(int cols)
+{
+    if (cols == m_cols)
+        return;
+    beginResetModel();
+    std::vector<QString> texts(std::size_t(m_rows) * std::size_t(cols));
+    const int kept = std::min(cols, m_cols);
+    for (int row = 0; row < m_rows; ++row)
+        for (int col = 0; col < kept; ++col)
+            texts[std::size_t(row) * std::size_t(cols) + std::size_t(col)] = std::move(m_texts[cell(row, col)]);
+    m_texts = std::move(texts);
+    std::erase_if(m_pictures, [cols](const auto &each) { return each.first.second >= cols; });
+    m_cols = cols;
+    endResetModel();
+}
+
+void FlexGridModel::removeRow(int row)
+{
+    beginRemoveRows({}, row - 1, row - 1);
+    const auto first = m_texts.begin() + std::ptrdiff_t(cell(row, 0));
+    m_texts.erase(first, first + m_cols);
+    std::map<std::pair<int, int>, QPixmap> pictures;
+    for (const auto &[place, pixmap] : m_pictures)
+        if (place.first != row)
+            pictures.emplace(std::pair(place.first - (place.first > row ? 1 : 0), place.second), pixmap);
+    m_pictures = std::move(pictures);
+    --m_rows;
+    endRemoveRows();
+}
+
+void FlexGridModel::setText(int row, int col, const QString &text)
+{
+    // A load writes some hundred thousand cells: the grid repaints once instead of being told of each.
+    m_texts[cell(row, col)] = text;
+}
+
+QPixmap FlexGridModel::picture(int row, int col) const
+{
+    const auto found = m_pictures.find({row, col});
+    return found == m_pictures.end() ? QPixmap() : found->second;
+}
+
+void FlexGridModel::setPicture(int row, int col, const QPixmap &picture)
+{
+    if (picture.isNull())
+        m_pictures.erase({row, col});
+    else
+        m_pictures[{row, col}] = picture;
+}
+
+void FlexGridModel::setAlignment(int col, Qt::Alignment alignment)
+{
+    if (m_alignments.size() <= std::size_t(col))
+        m_alignments.resize(std::size_t(col) + 1, Qt::AlignLeft);
+    m_alignments[std::size_t(col)] = alignment;
+}
+
+void FlexGridModel::clear()
+{
+    std::fill(m_texts.begin(), m_texts.end(), QString());
+    m_pictures.clear();
+}

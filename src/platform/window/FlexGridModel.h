@@ -1,1 +1,43 @@
 #pragma once
+
+#include <QAbstractTableModel>
+#include <QPixmap>
+
+#include <map>
+#include <vector>
+
+/// Texts of a grid, row by row; row 0 is the headings, so that the view's first row is the grid's row 1.
+class FlexGridModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    // Rows and columns below are the grid's, which the caller has checked.
+    int Rows() const { return m_rows; }
+    int Cols() const { return m_cols; }
+    void setRows(int rows);
+    void setCols(int cols);
+    void removeRow(int row);
+    const QString &text(int row, int col) const { return m_texts[cell(row, col)]; }
+    void setText(int row, int col, const QString &text);
+    QPixmap picture(int row, int col) const;
+    void setPicture(int row, int col, const QPixmap &picture);
+    void setAlignment(int col, Qt::Alignment alignment);
+    void clear();
+
+private:
+    std::size_t cell(int row, int col) const { return std::size_t(row) * std::size_t(m_cols) + std::size_t(col); }
+
+    int m_rows = 1;
+    int m_cols = 2;
+    std::vector<QString> m_texts = std::vector<QString>(2);
+    std::vector<Qt::Alignment> m_alignments;
+    std::map<std::pair<int, int>, QPixmap> m_pictures;
+};

@@ -16,6 +16,7 @@ public:
     QString Name() const { return objectName(); }
     bool isLoaded() const { return m_loaded; }
 
+    /// Opens the window or brings it forward; one that was unloaded meanwhile stays closed.
     void Show();
     void Unload();
 

@@ -24,10 +24,20 @@ public:
 
 private:
     friend class Form;
-    friend void DoEvents();
 
     static Form &adopt(std::unique_ptr<Form> form);
     static void retire(Form *form);
+    static bool becomesActive(Form *form);
+};
+
+/// Stands wherever events run inside a routine. While one lives, unloaded windows keep their memory, since a routine of
+/// theirs may be among those that wait.
+class EventPump
+{
+public:
+    EventPump();
+    ~EventPump();
+    Q_DISABLE_COPY_MOVE(EventPump)
 };
 
 /// Lets the events run that wait; a routine may be entered again meanwhile.

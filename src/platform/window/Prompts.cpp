@@ -1,1 +1,135 @@
 #include "platform/window/Prompts.h"
+
+#include "platform/files/Paths.h"
+#include "platform/window/Forms.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace {
+
+constexpr int buttonMask = 0x0F;
+constexpr int iconMask = 0x70;
+
+/// The window that a dialog has to lie above.
+QWidget *owner()
+{
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    const QList<Form *> forms = Forms::loaded();
+    for (auto form = forms.crbegin(); form != forms.crend(); ++form)
+        if ((*form)->isVisible())
+            return *form;
+    return nullptr;
+}
+
+QMessageBox::Icon iconOf(int style)
+{
+    switch (style & iconMask) {
+    case vbCritical:
+        return QMessageBox::Critical;
+    case vbQuestion:
+        return QMessageBox::Question;
+    case vbInformation:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+/// "Pictures |*.bmp;*.jpg|" becomes "Pictures (*.bmp *.jpg)".
+QStringList nameFilters(const QString &filter)
+{
+    const QStringList parts = filter.split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        // Patterns that the text repeats in brackets would be shown twice.
+        const QString text = parts.at(i).section('(', 0, 0).trimmed();
+        const QString patterns = parts.at(i + 1).trimmed();
+        if (!patterns.isEmpty())
+            filters.append(text + " (" + QString(patterns).replace(';', ' ') + ")");
+    }
+    return filters;
+}
+
+class DesktopPrompts : public PromptService
+{
+public:
+    int message(const QString &text, int style, const QString &title) override
+    {
+        QMessageBox box(iconOf(style), title, text, QMessageBox::Ok, owner());
+        // A name or a path in a message is no markup.
+        box.setTextFormat(Qt::PlainText);
+        box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+        if ((style & buttonMask) == vbYesNo) {
+            box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+            box.setDefaultButton(QMessageBox::Yes);
+            box.setEscapeButton(QMessageBox::No);
+        }
+        switch (box.exec()) {
+        case QMessageBox::Yes:
+            return vbYes;
+        case QMessageBox::No:
+            return vbNo;
+        default:
+            return vbOK;
+        }
+    }
+
+    QString openFile(const FileDialog &dialog) override
+    {
+        return ask(dialog, QFileDialog::AcceptOpen, QFileDialog::ExistingFile);
+    }
+
+    QString saveFile(const FileDialog &dialog) override
+    {
+        return ask(dialog, QFileDialog::AcceptSave, QFileDialog::AnyFile);
+    }
+
+private:
+    static QString ask(const FileDialog &wanted, QFileDialog::AcceptMode accept, QFileDialog::FileMode file)
+    {
+        QFileDialog dialog(owner(), wanted.DialogTitle, resolveIgnoringCase(wanted.InitDir));
+        dialog.setAcceptMode(accept);
+        dialog.setFileMode(file);
+        dialog.setNameFilters(nameFilters(wanted.Filter));
+        if (!wanted.FileName.isEmpty())
+            dialog.selectFile(resolveIgnoringCase(wanted.FileName));
+        return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    }
+};
+
+PromptService *inForce = nullptr;
+
+} // namespace
+
+int MsgBox(const QString &text, int style, const QString &title)
+{
+    const EventPump pump;
+    return PromptService::current().message(text, style,
+                                            title.isEmpty() ? QGuiApplication::applicationDisplayName() : title);
+}
+
+void FileDialog::ShowOpen()
+{
+    const EventPump pump;
+    FileName = PromptService::current().openFile(*this);
+}
+
+void FileDialog::ShowSave()
+{
+    const EventPump pump;
+    FileName = PromptService::current().saveFile(*this);
+}
+
+PromptService &PromptService::current()
+{
+    static DesktopPrompts desktop;
+    return inForce ? *inForce : desktop;
+}
+
+void PromptService::use(PromptService *service)
+{
+    inForce = service;
+}

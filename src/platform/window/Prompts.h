@@ -3,15 +3,18 @@
 #include <QString>
 
 /// Styles of a message box, to be added up.
-enum MsgBoxStyle {
+enum MsgBoxStyle
+{
     vbOKOnly = 0,
     vbYesNo = 4,
+    vbCritical = 16,
     vbQuestion = 32,
     vbInformation = 64,
 };
 
 /// Answers of a message box.
-enum MsgBoxAnswer {
+enum MsgBoxAnswer
+{
     vbOK = 1,
     vbYes = 6,
     vbNo = 7,

@@ -1,0 +1,123 @@
+// What the attendant does in a grid, by keyboard and by mouse.
+
+#include "platform/window/FlexGrid.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <algorithm>
+
+void FlexGrid::keyPressEvent(QKeyEvent *event)
+{
+    const int page = std::max(viewport()->height() / verticalHeader()->defaultSectionSize() - 1, 1);
+    int row = RowSel();
+    int col = ColSel();
+    switch (event->key()) {
+    case Qt::Key_Up:
+        --row;
+        break;
+    case Qt::Key_Down:
+        ++row;
+        break;
+    case Qt::Key_PageUp:
+        row -= page;
+        break;
+    case Qt::Key_PageDown:
+        row += page;
+        break;
+    case Qt::Key_Home:
+        row = 1;
+        break;
+    case Qt::Key_End:
+        row = Rows() - 1;
+        break;
+    case Qt::Key_Left:
+        --col;
+        break;
+    case Qt::Key_Right:
+        ++col;
+        break;
+    default:
+        // Enter and all other keys belong to the window.
+        event->ignore();
+        return;
+    }
+    if (Rows() > 1)
+        moveTo(std::clamp(row, 1, Rows() - 1), std::clamp(col, 0, Cols() - 1), event->modifiers() & Qt::ShiftModifier);
+}
+
+void FlexGrid::mousePressEvent(QMouseEvent *event)
+{
+    const QPoint place = event->position().toPoint();
+    const int row = rowAt(place.y()) + 1;
+    m_pressed = event->button() == Qt::LeftButton && row > 0;
+    if (!m_pressed)
+        return;
+    const int col = columnAt(place.x());
+    m_mouseRow = row;
+    m_mouseCol = col < 0 ? Cols() - 1 : col;
+    if (event->modifiers() & Qt::ShiftModifier && Row() > 0)
+        select({Row(), m_mouseRow, Col(), m_mouseCol});
+    else
+        select({m_mouseRow, m_mouseRow, m_mouseCol, m_mouseCol});
+}
+
+void FlexGrid::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_pressed || Rows() < 2)
+        return;
+    const int row = rowNear(event->position().toPoint().y());
+    if (row != RowSel())
+        moveTo(row, ColSel(), true);
+}
+
+void FlexGrid::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_pressed)
+        return;
+    m_pressed = false;
+    emit Click();
+}
+
+void FlexGrid::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    mousePressEvent(event);
+}
+
+void FlexGrid::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        fitRowsToFont();
+}
+
+/// The row at a height of the viewport; beyond its edges the next row that isn't in view yet.
+int FlexGrid::rowNear(int y) const
+{
+    const int height = viewport()->height();
+    int row = rowAt(std::clamp(y, 0, height - 1)) + 1;
+    if (row == 0)
+        row = Rows() - 1;
+    return std::clamp(row + (y < 0 ? -1 : 0) + (y >= height ? 1 : 0), 1, Rows() - 1);
+}
+
+void FlexGrid::moveTo(int row, int col, bool extend)
+{
+    // Scrolled before anyone is told, so that a window that keeps the row in view finds it there.
+    scrollTo(model()->index(row - 1, col));
+    if (extend && Row() > 0)
+        select({Row(), row, Col(), col});
+    else
+        select({row, row, col, col});
+}
+
+void FlexGrid::headingClicked(int col)
+{
+    m_mouseRow = 0;
+    m_mouseCol = col;
+    // After a picture was put on a heading the current row is 0; a window reads the column only in a row of its list.
+    const int row = std::max(Row(), std::min(Rows() - 1, 1));
+    select({row, std::max(RowSel(), row), col, col});
+    emit Click();
+}

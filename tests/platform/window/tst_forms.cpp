@@ -1,0 +1,225 @@
+#include "platform/base/Err.h"
+#include "platform/window/Forms.h"
+#include "platform/window/Prompts.h"
+
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+QStringList told;
+
+class Window : public Form
+{
+    Q_OBJECT
+
+public:
+    explicit Window(const QString &name) { setObjectName(name); }
+    ~Window() override { told << Name() + " freed"; }
+
+protected:
+    void Form_Load() override { told << Name() + " load"; }
+    void Form_Activate() override { told << Name() + " activate"; }
+    void Form_Unload() override { told << Name() + " unload"; }
+};
+
+class Counter : public Window
+{
+    Q_OBJECT
+
+public:
+    Counter() : Window("counter") {}
+};
+
+class Customers : public Window
+{
+    Q_OBJECT
+
+public:
+    Customers() : Window("customers") {}
+
+    /// As a window waits for another: its own memory is read after each turn.
+    void waitFor(const QString &name)
+    {
+        const auto isLoaded = [&name] {
+            const auto forms = Forms::loaded();
+            return std::any_of(forms.begin(), forms.end(), [&](Form *form) { return form->Name() == name; });
+        };
+        while (isLoaded())
+            DoEvents();
+        told << Name() + (isLoaded() ? " waits" : " goes on");
+    }
+};
+
+class Broken : public Form
+{
+    Q_OBJECT
+
+public:
+    int unloads = 0;
+
+protected:
+    void Form_Load() override { throw RunTimeError(5, "no"); }
+    void Form_Unload() override { ++unloads; }
+};
+
+class Script : public PromptService
+{
+public:
+    int message(const QString &text, int style, const QString &title) override
+    {
+        told << text + "/" + QString::number(style) + "/" + title;
+        QCoreApplication::processEvents();
+        return vbNo;
+    }
+    QString openFile(const FileDialog &dialog) override { return dialog.InitDir + "/open"; }
+    QString saveFile(const FileDialog &) override { return {}; }
+};
+
+QStringList takeTold()
+{
+    return std::exchange(told, {});
+}
+
+void settle()
+{
+    for (int i = 0; i < 3; ++i)
+        QCoreApplication::processEvents();
+}
+
+} // namespace
+
+class TestForms : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup()
+    {
+        for (Form *form : Forms::loaded())
+            form->Unload();
+        settle();
+        told.clear();
+    }
+
+    void loadsOnceAndUnloadsOnce()
+    {
+        Counter &counter = Forms::use<Counter>();
+        QCOMPARE(takeTold(), QStringList("counter load"));
+        QVERIFY(!counter.isVisible());
+        QCOMPARE(&Forms::use<Counter>(), &counter);
+
+        counter.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&counter));
+        QCOMPARE(takeTold(), QStringList("counter activate"));
+
+        counter.close();
+        counter.Unload();
+        counter.Show();
+        QVERIFY(!counter.isVisible());
+        QCOMPARE(takeTold(), QStringList("counter unload"));
+        QVERIFY(Forms::loaded().isEmpty());
+
+        const Counter *unloaded = &counter;
+        QVERIFY(&Forms::use<Counter>() != unloaded);
+        settle();
+        QCOMPARE(takeTold(), QStringList({"counter load", "counter freed"}));
+    }
+
+    void activatesOnlyWhenTheProgramsWindowChanges()
+    {
+        Counter &counter = Forms::use<Counter>();
+        counter.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&counter));
+        QWidget elsewhere;
+        elsewhere.show();
+        elsewhere.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+        counter.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&counter));
+        QCOMPARE(takeTold(), QStringList({"counter load", "counter activate"}));
+
+        Customers &customers = Forms::use<Customers>();
+        customers.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&customers));
+        customers.Unload();
+        counter.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&counter));
+        QCOMPARE(takeTold(), QStringList({"customers load", "customers activate", "customers unload", "customers freed",
+                                          "counter activate"}));
+    }
+
+    void keepsAWindowWhoseRoutineStillWaits()
+    {
+        Counter &counter = Forms::use<Counter>();
+        Customers &customers = Forms::use<Customers>();
+        customers.Show();
+        told.clear();
+        QTimer::singleShot(0, &customers, &QWidget::close);
+        QTimer::singleShot(30, qApp, [&] { MsgBox("still there?"); });
+        QTimer::singleShot(60, &counter, &QWidget::close);
+        Script script;
+        PromptService::use(&script);
+        QTimer::singleShot(0, [&] { customers.waitFor("counter"); });
+        QTRY_COMPARE(told.size(), 6);
+        PromptService::use(nullptr);
+        QCOMPARE(takeTold(),
+                 QStringList({"customers unload", "still there?/0/" + QGuiApplication::applicationDisplayName(),
+                              "counter unload", "customers goes on", "customers freed", "counter freed"}));
+    }
+
+    void closingByItsOwnButtonIsSafe()
+    {
+        Counter &counter = Forms::use<Counter>();
+        auto *button = new QPushButton(&counter);
+        connect(button, &QPushButton::clicked, &counter, [&] {
+            counter.Unload();
+            QVERIFY(button->isEnabled());
+        });
+        counter.Show();
+        QTest::mouseClick(button, Qt::LeftButton);
+        QTRY_COMPARE(told.last(), "counter freed");
+    }
+
+    void leavesNoWindowWhoseLoadFailed()
+    {
+        QVERIFY(!OnErrorResumeNext([] { Forms::use<Broken>(); }));
+        QVERIFY(Forms::loaded().isEmpty());
+    }
+
+    void staysOnTopWithoutBeingShownAnew()
+    {
+        Counter &counter = Forms::use<Counter>();
+        Sempre_No_Topo(counter, true);
+        QVERIFY(counter.windowFlags() & Qt::WindowStaysOnTopHint);
+        counter.Show();
+        const WId id = counter.winId();
+        QVERIFY(counter.windowHandle()->flags() & Qt::WindowStaysOnTopHint);
+        Sempre_No_Topo(counter, false);
+        QVERIFY(!(counter.windowFlags() & Qt::WindowStaysOnTopHint));
+        QVERIFY(!(counter.windowHandle()->flags() & Qt::WindowStaysOnTopHint));
+        QVERIFY(counter.isVisible());
+        QCOMPARE(counter.winId(), id);
+    }
+
+    void asksThroughThePromptService()
+    {
+        Script script;
+        PromptService::use(&script);
+        QCOMPARE(MsgBox("text", vbYesNo | vbQuestion, "title"), int(vbNo));
+        QCOMPARE(takeTold(), QStringList("text/36/title"));
+        FileDialog dialog;
+        dialog.InitDir = "/tmp";
+        dialog.FileName = "before";
+        dialog.ShowOpen();
+        QCOMPARE(dialog.FileName, "/tmp/open");
+        dialog.ShowSave();
+        QCOMPARE(dialog.FileName, "");
+        PromptService::use(nullptr);
+    }
+};
+
+QTEST_MAIN(TestForms)
+#include "tst_forms.moc"
