@@ -1,1 +1,51 @@
 #include "platform/files/IniProfile.h"
+
+#include "platform/files/IniText.h"
+#include "platform/files/Paths.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+#include <unistd.h>
+
+namespace {
+/// Empty when the file is there and cannot be read to its end; a missing file is an empty one.
+std::optional<IniText> readIni(const QString &path)
+{
+    QFile file(path);
+    if (!file.exists())
+        return IniText({});
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return {};
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return {};
+    return IniText(std::move(bytes));
+}
+} // namespace
+
+QString GetPrivateProfileString(const QString &section, const QString &key, const QString &fallback, int size,
+                                const QString &file)
+{
+    // Every read goes to the file: another computer may have written it a moment ago.
+    const std::optional<IniText> ini = readIni(resolveIgnoringCase(file));
+    const std::optional<QString> value = ini ? ini->value(section, key) : std::nullopt;
+    return value.value_or(fallback).left(size - 1);
+}
+
+bool WritePrivateProfileString(const QString &section, const QString &key, const QString &value, const QString &file)
+{
+    const QString path = resolveIgnoringCase(file);
+    std::optional<IniText> ini = readIni(path);
+    // What could not be read must not be replaced by what little is known of it.
+    if (!ini)
+        return false;
+    ini->setValue(section, key, value);
+
+    QSaveFile replacement(path);
+    if (!replacement.open(QIODevice::WriteOnly))
+        return false;
+    replacement.write(ini->bytes());
+    // Qt's commit minds neither a disk that is full at its last flush nor one that fails to take the bytes for good.
+    return replacement.flush() && fsync(replacement.handle()) == 0 && replacement.commit();
+}

@@ -9,11 +9,6 @@
 class TextOutput
 {
 public:
-    TextOutput() = default;
-    ~TextOutput();
-    TextOutput(const TextOutput &) = delete;
-    TextOutput &operator=(const TextOutput &) = delete;
-
     /// Opens a file, or the device of LPT1 to LPT9. Raises DeviceUnavailable or PathAccess; a port name never
     /// becomes a file.
     void Open(const QString &name);
