@@ -103,9 +103,8 @@ EventPump::~EventPump()
     freeUnloadedSoon();
 }
 
-void DoEvents(WaitingInput input)
+void DoEvents()
 {
     const EventPump pump;
-    QCoreApplication::processEvents(input == WaitingInput::Runs ? QEventLoop::AllEvents
-                                                                : QEventLoop::ExcludeUserInputEvents);
+    QCoreApplication::processEvents();
 }

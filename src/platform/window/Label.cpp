@@ -9,6 +9,8 @@ Label::Label(QWidget *parent) : QLabel(parent)
 
 void Label::setCaption(const QString &caption)
 {
+    if (caption == text())
+        return;
     setText(caption);
     emit Change();
 }

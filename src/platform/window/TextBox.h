@@ -10,9 +10,6 @@ class TextBox : public QLineEdit
 public:
     explicit TextBox(QWidget *parent = nullptr);
 
-    /// Fires `Change`, even where the text stays the same.
-    void setText(const QString &text);
-
     /// Puts the keyboard focus here with the caret behind the last character.
     void setCaretToEnd();
 

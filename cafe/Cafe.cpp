@@ -1,0 +1,102 @@
+#include "cafe/Cafe.h"
+
+#include "platform/base/Err.h"
+#include "platform/files/IniProfile.h"
+#include "platform/files/Paths.h"
+#include "platform/jet/DBEngine.h"
+
+#include <QFileInfo>
+
+namespace {
+
+void requireFolder(const QString &folder)
+{
+    if (!QFileInfo(folder).isDir())
+        throw RunTimeError(ErrorNumber::FileNotFound, folder + ": there is no such folder");
+}
+
+CashPeriod newestPeriod(Database &db)
+{
+    const RecordsetHandle newest = db.OpenRecordset("Select Max(ID_Caixa) From Registro_Caixa");
+    if (newest->Eof() || newest->Fields(0).isNull())
+        return {};
+    CashPeriod period;
+    period.number = qRound64(newest->Fields(0).number());
+    const RecordsetHandle row =
+        db.OpenRecordset(QString("Select Caixa_Aberto From Registro_Caixa Where ID_Caixa=%1").arg(period.number));
+    period.open = !row->Eof() && row->Fields(0).boolean();
+    return period;
+}
+
+} // namespace
+
+QString dataFileOf(const QString &folder)
+{
+    return resolveIgnoringCase(folder + "/Morvelane.mdb");
+}
+
+QString configFileOf(const QString &folder)
+{
+    return resolveIgnoringCase(folder + "/config.ini");
+}
+
+QString connectText()
+{
+    return ";PWD=qzt3172";
+}
+
+DatabaseHandle openDataFile(const QString &folder)
+{
+    requireFolder(folder);
+    const QString file = dataFileOf(folder);
+    if (!QFileInfo::exists(file))
+        throw RunTimeError(ErrorNumber::FileNotFound, folder + ": no café is in this folder");
+    return DBEngine::Workspaces(0).OpenDatabase(file, false, false, connectText());
+}
+
+CashPeriod tillStatus(const QString &folder)
+{
+    return newestPeriod(*openDataFile(folder));
+}
+
+CashPeriod openTill(const QString &folder)
+{
+    const DatabaseHandle db = openDataFile(folder);
+    CashPeriod period = newestPeriod(*db);
+    if (period.open)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall,
+                           QString("cash period %1 is open already").arg(period.number));
+    period = {period.number + 1, true};
+    db->Execute(QString("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (%1,True)").arg(period.number));
+    return period;
+}
+
+CashPeriod closeTill(const QString &folder)
+{
+    const DatabaseHandle db = openDataFile(folder);
+    CashPeriod period = newestPeriod(*db);
+    if (!period.open)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall, "no cash period is open");
+    db->Execute(QString("Update Registro_Caixa Set Caixa_Aberto=False Where ID_Caixa=%1").arg(period.number));
+    period.open = false;
+    return period;
+}
+
+void allowModule(const QString &folder, bool allowed)
+{
+    requireFolder(folder);
+    const QString file = configFileOf(folder);
+    if (!QFileInfo::exists(file))
+        throw RunTimeError(ErrorNumber::FileNotFound, folder + ": there is no config.ini in this folder");
+    if (!WritePrivateProfileString("Modulo Externo", "Ativo", allowed ? "1" : "0", file))
+        throw RunTimeError(ErrorNumber::PathAccess, file + ": cannot be written");
+}
+
+void backupCafe(const QString &folder, const QString &file)
+{
+    if (QFileInfo::exists(file))
+        throw RunTimeError(ErrorNumber::PathAccess, file + ": exists already");
+    if (!QFileInfo(QFileInfo(file).absolutePath()).isDir())
+        throw RunTimeError(ErrorNumber::FileNotFound, file + ": there is no such folder");
+    openDataFile(folder)->backupTo(file);
+}
