@@ -103,8 +103,9 @@ EventPump::~EventPump()
     freeUnloadedSoon();
 }
 
-void DoEvents()
+void DoEvents(WaitingInput input)
 {
     const EventPump pump;
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(input == WaitingInput::Runs ? QEventLoop::AllEvents
+                                                                : QEventLoop::ExcludeUserInputEvents);
 }

@@ -40,5 +40,11 @@ public:
     Q_DISABLE_COPY_MOVE(EventPump)
 };
 
+/// What becomes of keys and clicks that wait while events run.
+enum class WaitingInput {
+    Runs,
+    Stays, ///< they keep their order behind the event that is being handled, as a scanner's keys must
+};
+
 /// Lets the events run that wait; a routine may be entered again meanwhile.
-void DoEvents();
+void DoEvents(WaitingInput input = WaitingInput::Runs);

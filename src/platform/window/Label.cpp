@@ -9,8 +9,6 @@ Label::Label(QWidget *parent) : QLabel(parent)
 
 void Label::setCaption(const QString &caption)
 {
-    if (caption == text())
-        return;
     setText(caption);
     emit Change();
 }

@@ -11,7 +11,7 @@ public:
     explicit Label(QWidget *parent = nullptr);
 
     QString Caption() const { return text(); }
-    /// Fires `Change` when the caption differs from the one before.
+    /// Fires `Change`, even where the caption stays the same.
     void setCaption(const QString &caption);
 
 signals:

@@ -21,6 +21,14 @@ TextBox::TextBox(QWidget *parent) : QLineEdit(parent)
     connect(this, &QLineEdit::textChanged, this, &TextBox::Change);
 }
 
+void TextBox::setText(const QString &text)
+{
+    if (text == this->text())
+        emit Change();
+    else
+        QLineEdit::setText(text);
+}
+
 void TextBox::setCaretToEnd()
 {
     setFocus();

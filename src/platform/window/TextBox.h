@@ -10,6 +10,9 @@ class TextBox : public QLineEdit
 public:
     explicit TextBox(QWidget *parent = nullptr);
 
+    /// Fires `Change`, even where the text stays the same.
+    void setText(const QString &text);
+
     /// Puts the keyboard focus here with the caret behind the last character.
     void setCaretToEnd();
 
