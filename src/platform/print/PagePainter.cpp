@@ -1,1 +1,46 @@
 #include "platform/print/PagePainter.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPrinter>
+
+namespace {
+
+void paintPage(const RecordedPage &page, QPainter &painter)
+{
+    QFont font;
+    qreal ascent = 0;
+    bool fontSet = false;
+    for (const RecordedText &each : page.texts) {
+        if (!fontSet || each.font != font) {
+            font = each.font;
+            ascent = QFontMetricsF(font).ascent();
+            painter.setFont(font);
+            fontSet = true;
+        }
+        painter.drawText(each.place + QPointF(0, ascent), each.text);
+    }
+    for (const RecordedBox &each : page.boxes)
+        painter.fillRect(each.box, Qt::black);
+}
+
+} // namespace
+
+bool paintPages(const QList<RecordedPage> &pages, QPrinter &printer)
+{
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return false;
+    bool first = true;
+    for (const RecordedPage &page : pages) {
+        if (!first && !printer.newPage())
+            return false;
+        first = false;
+        painter.save();
+        const qreal scale = qreal(printer.resolution()) / twipsPerInch;
+        painter.scale(scale, scale);
+        paintPage(page, painter);
+        painter.restore();
+    }
+    return painter.end() && printer.printerState() != QPrinter::Error;
+}

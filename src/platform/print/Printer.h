@@ -5,7 +5,8 @@
 #include <QStringList>
 
 /// Units of a position on the sheet.
-enum class ScaleMode {
+enum class ScaleMode
+{
     Twips,      ///< 1/1440 inch
     Characters, ///< 120 twips across, 240 twips down
 };
@@ -17,12 +18,14 @@ enum class ScaleMode {
 class Printer
 {
 public:
+    Printer();
+
     static Printer &current();
 
     QString DeviceName() const { return m_deviceName; }
     void setDeviceName(const QString &name) { m_deviceName = name; }
 
-    /// What the printout is, for the print queue and for the name of a PDF.
+    /// What the next printout is, for the print queue and for the name of a PDF.
     void setDocumentName(const QString &name) { m_documentName = name; }
 
     void setFontName(const QString &name);
@@ -52,6 +55,12 @@ public:
     void KillDoc();
 
 private:
+    QPointF toTwips(QPointF place) const;
+    RecordedPage &page();
+    QString targetDevice() const;
+    void printTo(const QString &device, const QString &title, const QList<RecordedPage> &pages) const;
+    void printToFile(const QString &title, const QList<RecordedPage> &pages) const;
+
     QString m_deviceName;
     QString m_documentName;
     QFont m_font;

@@ -5,7 +5,12 @@
 #include <QRectF>
 #include <QString>
 
-/// A text at a place, in twips from the sheet's upper left corner; the place is the text's upper left corner.
+/// Twips to a point and to an inch.
+constexpr int twipsPerPoint = 20;
+constexpr int twipsPerInch = 1440;
+
+/// A text at a place, in twips from the sheet's upper left corner; the place is the text's upper left corner. The font
+/// is measured in twips too: its pixels are twips.
 struct RecordedText
 {
     QPointF place;

@@ -1,0 +1,204 @@
+#include "platform/base/Err.h"
+#include "platform/base/Machine.h"
+#include "platform/print/Printer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QByteArray run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        qFatal("%s failed", qPrintable(program));
+    return process.readAllStandardOutput();
+}
+
+/// Upper left corners of the words of a printout, in points, by word.
+QMultiMap<QString, QPointF> places(const QString &file)
+{
+    static const QRegularExpression word(R"re(<word xMin="([-\d.]+)" yMin="([-\d.]+)"[^>]*>([^<]*)</word>)re");
+    QMultiMap<QString, QPointF> found;
+    for (auto each = word.globalMatch(QString::fromUtf8(run("pdftotext", {"-bbox", file, "-"}))); each.hasNext();) {
+        const auto match = each.next();
+        found.insert(match.captured(3), {match.captured(1).toDouble(), match.captured(2).toDouble()});
+    }
+    return found;
+}
+
+} // namespace
+
+class TestPrinter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_opened.clear();
+        Machine machine;
+        machine.now = [] { return QDateTime({2024, 2, 29}, {23, 59, 1}); };
+        machine.printoutFolder = [this] { return m_folder->filePath("documents/printouts"); };
+        machine.openDocument = [this](const QString &path) { m_opened << path; };
+        Machine::current() = machine;
+        Printer::current() = Printer();
+    }
+
+    void fillsASheetOfCharacters()
+    {
+        Printer &printer = Printer::current();
+        printer.setScaleMode(ScaleMode::Characters);
+        for (int line : {0, 29, 60}) {
+            for (int column = 0; column < 98; ++column) {
+                printer.setCurrentX(column);
+                printer.setCurrentY(line);
+                printer.Print("=");
+            }
+        }
+        printer.setCurrentX(33);
+        printer.setCurrentY(30);
+        printer.Print("MEIO");
+        printer.Print("após");
+        printer.EndDoc();
+
+        const auto found = places(onlyDocument());
+        const QList<QPointF> rules = found.values(QString(98, '='));
+        QCOMPARE(rules.size(), 3);
+        QCOMPARE(found.size(), 5);
+        // A column is 6 points wide and a line 12 high.
+        QList<int> lines;
+        for (const QPointF &rule : rules) {
+            QVERIFY(qAbs(rule.x()) < 0.1);
+            QVERIFY(qAbs(rule.y() / 12 - qRound(rule.y() / 12)) < 0.01);
+            lines << qRound(rule.y() / 12);
+        }
+        std::sort(lines.begin(), lines.end());
+        QCOMPARE(lines, QList<int>({0, 29, 60}));
+        QVERIFY(qAbs(found.value("MEIO").x() - 33 * 6) < 0.1);
+        QVERIFY(qAbs(found.value("MEIO").y() - 30 * 12) < 0.1);
+        QVERIFY(qAbs(found.value("após").x()) < 0.1);
+        QVERIFY(qAbs(found.value("após").y() - 31 * 12) < 0.1);
+        const QByteArray fonts = run("pdffonts", {onlyDocument()});
+        QVERIFY2(fonts.contains("LiberationMono") || fonts.contains("CourierNew"), fonts);
+        QVERIFY(run("pdfinfo", {onlyDocument()}).contains("A4"));
+    }
+
+    void placesInTwips()
+    {
+        Printer &printer = Printer::current();
+        printer.setFontSize(16);
+        printer.setFontBold(true);
+        printer.setCurrentX(1440);
+        printer.setCurrentY(2880);
+        printer.Print("12345", false);
+        QVERIFY(qAbs(printer.CurrentX() - 1440 - 5 * 16 * 20 * 0.6) < 5);
+        printer.Print("678");
+        QCOMPARE(printer.CurrentX(), 0);
+        QVERIFY(printer.CurrentY() > 2880 + 16 * 20);
+        printer.FillBox(QRectF(720, 7200, 1440, 720));
+        printer.NewPage();
+        printer.NewPage();
+        printer.Print("last");
+        printer.NewPage();
+        printer.setDocumentName("Etiquetas");
+        printer.EndDoc();
+
+        const auto found = places(onlyDocument());
+        QVERIFY(qAbs(found.value("12345678").x() - 72) < 0.1);
+        QVERIFY(run("pdffonts", {onlyDocument()}).contains("Bold"));
+        QVERIFY(QString::fromUtf8(run("pdfinfo", {onlyDocument()})).contains(QRegularExpression("Pages: +3\\b")));
+
+        const QString picture = m_folder->filePath("page");
+        run("pdftoppm", {"-r", "72", "-f", "1", "-l", "1", "-singlefile", "-png", onlyDocument(), picture});
+        const QImage page(picture + ".png");
+        QCOMPARE(page.pixelColor(38, 362), QColor(Qt::black));
+        QCOMPARE(page.pixelColor(106, 394), QColor(Qt::black));
+        QCOMPARE(page.pixelColor(34, 362), QColor(Qt::white));
+        QCOMPARE(page.pixelColor(110, 394), QColor(Qt::white));
+    }
+
+    void namesTheFileAfterTheDocument()
+    {
+        for (int i = 0; i < 2; ++i) {
+            Printer::current().setDocumentName("Recibo: 1/2 \"ação\"");
+            Printer::current().Print("x");
+            Printer::current().EndDoc();
+        }
+        QCOMPARE(documents(),
+                 QStringList({"Recibo 1 2 ação 2024-02-29 235901 (2).pdf", "Recibo 1 2 ação 2024-02-29 235901.pdf"}));
+        QCOMPARE(m_opened.size(), 2);
+        QCOMPARE(m_opened.first(), m_folder->filePath("documents/printouts/" + documents().last()));
+    }
+
+    void printsNothingWithoutInk()
+    {
+        Printer &printer = Printer::current();
+        printer.setCurrentX(5);
+        printer.NewPage();
+        printer.EndDoc();
+        printer.Print("forgotten");
+        printer.KillDoc();
+        printer.EndDoc();
+        QCOMPARE(documents(), QStringList());
+        QVERIFY(m_opened.isEmpty());
+    }
+
+    void takesThePaper()
+    {
+        Printer::current().setPageSize(15840, 12240);
+        QCOMPARE(Printer::current().PageWidth(), 15840);
+        Printer::current().Print("letter, landscape");
+        Printer::current().EndDoc();
+        QVERIFY(run("pdfinfo", {onlyDocument()}).contains("792 x 612"));
+    }
+
+    void failingDeviceRaisesAndForgets_data()
+    {
+        QTest::addColumn<QString>("device");
+        QTest::addColumn<QStringList>("installed");
+        QTest::newRow("folder can't be made") << "" << QStringList();
+        QTest::newRow("chosen printer is gone") << "Balcão" << QStringList();
+        QTest::newRow("system's printer is gone") << "" << QStringList("Balcão");
+    }
+
+    void failingDeviceRaisesAndForgets()
+    {
+        QFETCH(QString, device);
+        QFETCH(QStringList, installed);
+        QFile blocking(m_folder->filePath("documents"));
+        QVERIFY(blocking.open(QIODevice::WriteOnly));
+        Machine::current().printerNames = [installed] { return installed; };
+        Printer::current().setDeviceName(device);
+        QCOMPARE(Printers(), installed);
+
+        Printer::current().Print("lost");
+        Err::Clear();
+        OnErrorResumeNext([] { Printer::current().EndDoc(); });
+        QCOMPARE(Err::Number(), ErrorNumber::PrinterError);
+        QVERIFY(OnErrorResumeNext([] { Printer::current().EndDoc(); }));
+        QVERIFY(m_opened.isEmpty());
+    }
+
+private:
+    QStringList documents() const { return QDir(m_folder->filePath("documents/printouts")).entryList(QDir::Files); }
+
+    QString onlyDocument() const
+    {
+        const QStringList names = documents();
+        return names.size() == 1 ? m_folder->filePath("documents/printouts/" + names.first()) : QString();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QStringList m_opened;
+};
+
+QTEST_MAIN(TestPrinter)
+#include "tst_printer.moc"
