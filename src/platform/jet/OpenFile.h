@@ -2,6 +2,7 @@
 
 #include "platform/jet/engine/Engine.h"
 
+#include <QScopeGuard>
 #include <QStringView>
 
 #include <functional>
@@ -18,12 +19,8 @@ public:
     auto use(Operation operation)
     {
         const std::shared_ptr<EngineSession> session = openSession();
-        try {
-            return operation(*session);
-        } catch (...) {
-            forgetLostSession();
-            throw;
-        }
+        const auto leave = qScopeGuard([this] { forgetLostSession(); });
+        return operation(*session);
     }
 
     /// A statement bound to the tables that the file has now.

@@ -3,6 +3,7 @@
 #include "platform/base/Err.h"
 #include "platform/jet/DBEngine.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 /// Password of every data file in these tests.
@@ -24,6 +25,20 @@ public:
     static DatabaseHandle openAt(const QString &path)
     {
         return DBEngine::Workspaces(0).OpenDatabase(path, false, false, connectText);
+    }
+
+    /// The bytes of the file, while no database has it open.
+    QByteArray bytes() const
+    {
+        QFile file(path());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    void write(const QString &name, const QByteArray &content) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("cannot write %s", qPrintable(name));
     }
 
     static QList<SchemaStep> steps()

@@ -21,8 +21,9 @@ void copyPages(SqlCipherConnection &source, SqlCipherConnection &target)
     // All pages in one step: between two steps a sale elsewhere would make the copy begin anew, again and again.
     sqlite3_backup_step(backup, -1);
     const int code = sqlite3_backup_finish(backup);
+    // A page that cannot be decrypted is reported as a plain error here.
     if (code != SQLITE_OK)
-        source.raise(code);
+        target.raise(code == SQLITE_ERROR ? SQLITE_CORRUPT : code);
 }
 
 bool flush(const QString &path)

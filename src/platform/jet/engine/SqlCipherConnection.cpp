@@ -73,6 +73,12 @@ SqlCipherRun::~SqlCipherRun()
     sqlite3_clear_bindings(m_statement);
 }
 
+QString textColumn(sqlite3_stmt *statement, int column)
+{
+    const void *text = sqlite3_column_text(statement, column);
+    return QString::fromUtf8(static_cast<const char *>(text), sqlite3_column_bytes(statement, column));
+}
+
 SqlCipherConnection::SqlCipherConnection(const FileAccess &access, Mode mode)
     : m_access(access), m_chance(static_cast<unsigned>(::getpid()))
 {

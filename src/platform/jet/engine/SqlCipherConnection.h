@@ -25,6 +25,9 @@ private:
     sqlite3_stmt *m_statement;
 };
 
+/// A text of the current row.
+QString textColumn(sqlite3_stmt *statement, int column);
+
 /// A handle on one encrypted file: opening, waiting for other terminals, errors, and the watch over the file's place.
 class SqlCipherConnection
 {
@@ -40,6 +43,7 @@ public:
     sqlite3 *handle() const { return m_handle.get(); }
     const FileAccess &access() const { return m_access; }
     bool isLost() const { return m_lost; }
+    void markLost() { m_lost = true; }
     /// Raises when the path no longer leads to the file that was opened.
     void requireSameFile();
 

@@ -40,12 +40,6 @@ QString keyIndexName(const QString &table)
     return table + " key";
 }
 
-QString textColumn(sqlite3_stmt *statement, int column)
-{
-    const void *text = sqlite3_column_text(statement, column);
-    return QString::fromUtf8(static_cast<const char *>(text), sqlite3_column_bytes(statement, column));
-}
-
 template <typename Row>
 void forEachRow(SqlCipherConnection &connection, const std::string &sql, Row row)
 {

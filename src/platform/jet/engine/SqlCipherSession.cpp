@@ -177,16 +177,16 @@ QStringList SqlCipherSession::faults()
     QStringList found;
     try {
         const SqlCipherRun run(m_connection.prepare("PRAGMA integrity_check"));
-        while (m_connection.step(run)) {
-            const void *text = sqlite3_column_text(run, 0);
-            found.append(QString::fromUtf8(static_cast<const char *>(text)));
-        }
-        if (found == QStringList("ok"))
-            found.clear();
+        while (m_connection.step(run))
+            found += textColumn(run, 0).split('\n');
     } catch (const RunTimeError &error) {
         // A page that no longer fits its check sum ends the reading itself.
         found.append(error.Description());
     }
+    found.removeIf([](const QString &line) { return line == "ok" || line.startsWith("***"); });
+    // A page that failed leaves the connection unable to read the sound ones.
+    if (!found.isEmpty())
+        m_connection.markLost();
     return found;
 }
 
