@@ -1,4 +1,10 @@
-int main()
+#include "platform/window/Application.h"
+#include "platform/window/Forms.h"
+#include "shell/frmprincipal.h"
+
+int main(int argc, char **argv)
 {
-    return 0;
+    Application application(argc, argv);
+    Forms::use<frmprincipal>().Show();
+    return Application::exec();
 }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+/// An amount as it is shown and stored: "####0.00".
+QString amountText(double value);
+
+/// A text that is a number, as "####0.00"; any other text comes back as it is.
+QString amountText(const QString &text);
+
+/// The number of an amount as it is shown: rounded to its two places. The text form raises for what is no number.
+double shownAmount(double value);
+double shownAmount(const QString &text);
+
+/// The currency symbol in force, a blank, and the amount.
+QString withSymbol(double value);
+
+/// A text with each blank replaced by "0".
+QString blanksAsZeros(QString text);
+
+/// What the change shows when there is none: the symbol and three zeros, without a decimal separator. That stays.
+QString noChangeText();

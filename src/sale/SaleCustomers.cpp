@@ -1,0 +1,222 @@
+#include "sale/SaleCustomers.h"
+
+#include "configuration/Arquivos.h"
+#include "data/Acesso_BD.h"
+#include "data/Placeholders.h"
+#include "platform/base/Err.h"
+#include "platform/window/Forms.h"
+#include "platform/window/Pictures.h"
+#include "platform/window/Prompts.h"
+#include "sale/SaleDiscount.h"
+#include "sale/SaleState.h"
+#include "sale/SaleTexts.h"
+#include "ui_frmvenda.h"
+
+#include <QKeyEvent>
+
+namespace {
+constexpr int nameColumn = 1;
+constexpr int nickColumn = 2;
+constexpr int enterKey = 13;
+constexpr QSize searchPictureSize(20, 20);
+constexpr QSize photoSize(96, 96);
+} // namespace
+
+SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleDiscount &discount, QObject *parent)
+    : QObject(parent), ui(window), m_state(state), m_discount(discount)
+{
+    ui.cmdbusca->setIconSize(searchPictureSize);
+    searchAgainFromTop();
+    ui.txtnome->installEventFilter(this);
+
+    connect(ui.txtnome, &TextBox::Change, this, [this] {
+        DoEvents(WaitingInput::Stays);
+        ui.txtnome->setCaretToEnd();
+    });
+    connect(ui.txtnome, &TextBox::KeyPress, this, [this](int &KeyAscii) {
+        if (m_discount.Bloqueio_Desconto)
+            return;
+        if (KeyAscii == enterKey)
+            cmdbusca_Click();
+        else if (Busca_Continua)
+            searchAgainFromTop();
+    });
+    connect(ui.cmdbusca, &QPushButton::clicked, this, [this] {
+        if (!m_discount.Bloqueio_Desconto)
+            cmdbusca_Click();
+    });
+    connect(ui.tab_clientes, &FlexGrid::Click, this, &SaleCustomers::tab_clientes_Click);
+    connect(ui.tab_clientes, &FlexGrid::SelChange, this, &SaleCustomers::tab_clientes_SelChange);
+    connect(ui.optavulsa, &QRadioButton::clicked, this, &SaleCustomers::optavulsa_Click);
+    connect(ui.optcliente, &QRadioButton::clicked, this, &SaleCustomers::optcliente_Click);
+}
+
+void SaleCustomers::Listar_Clientes()
+{
+    FlexGrid &grid = *ui.tab_clientes;
+    OnErrorResumeNext([&] {
+        Abrir_Banco_Principal();
+        grid.Clear();
+        grid.setFormatString("<          |<" + saleText("tab_clientes1") + "|<" + saleText("tab_clientes2"));
+        grid.setCols(3);
+        grid.setRows(1);
+
+        RecordsetHandle rs;
+        rs = Abrir_Recordset(rs, BancoPrincipal, "Select Count(*) from Clientes");
+        int count = 0;
+        if (rs && !rs->Eof() && !rs->Fields(0).isNull())
+            count = static_cast<int>(rs->Fields(0).number());
+        rs = Abrir_Recordset(rs, BancoPrincipal, "Select * from Clientes Order By Nome");
+        if (!rs || rs->Eof())
+            return;
+        grid.setRows(count + 1);
+        const QString codigo = "Codigo";
+        const QString nome = "Nome";
+        const QString nick = "Nick";
+        // Another terminal may have registered a customer since the count; the list holds those that were counted.
+        for (int row = 1; !rs->Eof() && row <= count; rs->MoveNext(), ++row) {
+            grid.setTextMatrix(row, 0, rs->Fields(codigo).text());
+            grid.setTextMatrix(row, nameColumn, rs->Fields(nome).text());
+            grid.setTextMatrix(row, nickColumn, rs->Fields(nick).text());
+        }
+        Fechar_Recordset(rs);
+    });
+}
+
+bool SaleCustomers::Buscar_Cliente(const QString &termo, int inicio)
+{
+    FlexGrid &grid = *ui.tab_clientes;
+    const QString wanted = termo.toUpper();
+    const auto begins = [&](int row, int column) { return grid.TextMatrix(row, column).toUpper().startsWith(wanted); };
+    for (int row = inicio; row < grid.Rows(); ++row) {
+        if (!begins(row, nameColumn) && !begins(row, nickColumn))
+            continue;
+        DoEvents();
+        grid.setCol(nameColumn);
+        grid.setRow(row);
+        grid.setTopRow(row);
+        grid.setFocus();
+        grid.setColSel(grid.Cols() - 1);
+        tab_clientes_Click();
+        DoEvents();
+        return true;
+    }
+    return false;
+}
+
+void SaleCustomers::cmdbusca_Click()
+{
+    if (ui.txtnome->text().isEmpty()) {
+        saleNotice("MsgBox6");
+        return;
+    }
+    ui.txtnome->setText(ui.txtnome->text().toUpper());
+    if (Busca_Continua) {
+        if (!Buscar_Cliente(Ultima_Busca, ui.tab_clientes->Row() + 1))
+            saleNotice("MsgBox6");
+        return;
+    }
+    Ultima_Busca = ui.txtnome->text();
+    if (Buscar_Cliente(Ultima_Busca, 1)) {
+        Busca_Continua = true;
+        ui.cmdbusca->setIcon(bundledPicture("imgnova_procura", searchPictureSize));
+    } else {
+        searchAgainFromTop();
+        saleNotice("MsgBox6");
+    }
+}
+
+void SaleCustomers::searchAgainFromTop()
+{
+    Busca_Continua = false;
+    ui.cmdbusca->setIcon(bundledPicture("imgprocura", searchPictureSize));
+}
+
+void SaleCustomers::takeSelectedCustomer()
+{
+    const FlexGrid &grid = *ui.tab_clientes;
+    m_state.Nome_Cliente = grid.TextMatrix(grid.Row(), nameColumn);
+    m_state.Nick_Cliente = grid.TextMatrix(grid.Row(), nickColumn);
+    ui.txtnome->setText(m_state.Nome_Cliente);
+    if (!grid.RowIsVisible(grid.RowSel()))
+        ui.tab_clientes->setTopRow(grid.RowSel());
+}
+
+void SaleCustomers::tab_clientes_Click()
+{
+    // The headings of an empty list are no customer.
+    if (!m_discount.Bloqueio_Desconto && ui.tab_clientes->Row() > 0)
+        OnErrorResumeNext([this] { takeSelectedCustomer(); });
+}
+
+void SaleCustomers::tab_clientes_SelChange()
+{
+    if (m_discount.Bloqueio_Desconto || ui.tab_clientes->Row() == 0)
+        return;
+    OnErrorResumeNext([this] { takeSelectedCustomer(); });
+    ExibirFoto(m_state.Nome_Cliente);
+}
+
+void SaleCustomers::ExibirFoto(const QString &nome)
+{
+    QString path;
+    OnErrorResumeNext([&] {
+        Abrir_Banco_Principal();
+        RecordsetHandle rs;
+        rs = Abrir_Recordset(rs, BancoPrincipal, "Select CaminhoFoto From Clientes Where Nome='" + nome + "'");
+        if (rs && !rs->Eof())
+            path = rs->Fields("CaminhoFoto").text();
+        Fechar_Recordset(rs);
+    });
+    if (path.isEmpty() || path == Placeholder::NoPhoto || !Existe_Arquivo(path)) {
+        ui.imgfoto->setPixmap(bundledPicture("imgninguem", photoSize));
+        return;
+    }
+    // A file that is no picture leaves the picture that is shown, as any failed statement leaves things.
+    OnErrorResumeNext([&] {
+        const QPixmap photo = LoadPicture(path);
+        ui.imgfoto->setPixmap(photo.scaled(photoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    });
+}
+
+void SaleCustomers::optavulsa_Click()
+{
+    ui.imgfoto->setPixmap(bundledPicture("imgninguem", photoSize));
+    if (m_discount.Bloqueio_Desconto)
+        return;
+    m_state.Avulsa_Venda = yesFlag;
+    setGridEnabled(false);
+    ui.optnão_pago->setEnabled(false);
+    ui.optpago->setChecked(true);
+}
+
+void SaleCustomers::optcliente_Click()
+{
+    if (m_discount.Bloqueio_Desconto)
+        return;
+    m_state.Avulsa_Venda = 0;
+    setGridEnabled(true);
+    ui.optpago->setEnabled(true);
+    ui.optnão_pago->setEnabled(true);
+}
+
+void SaleCustomers::setGridEnabled(bool enabled)
+{
+    ui.txtnome->setEnabled(enabled);
+    ui.cmdbusca->setEnabled(enabled);
+    ui.tab_clientes->setEnabled(enabled);
+}
+
+bool SaleCustomers::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == ui.txtnome && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        const int row = ui.tab_clientes->Row() + (key == Qt::Key_Down ? 1 : -1);
+        if (key == Qt::Key_Down || key == Qt::Key_Up) {
+            if (row >= 1 && row < ui.tab_clientes->Rows())
+                ui.tab_clientes->setRow(row);
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,180 @@
+#include "sale/SaleDiscount.h"
+
+#include "configuration/Arquivos.h"
+#include "configuration/Arquivos_INI.h"
+#include "configuration/Idiomas.h"
+#include "data/Acesso_BD.h"
+#include "data/Funcoes.h"
+#include "data/Placeholders.h"
+#include "platform/base/Err.h"
+#include "platform/text/Numbers.h"
+#include "platform/window/ComboBox.h"
+#include "platform/window/Label.h"
+#include "platform/window/Prompts.h"
+#include "platform/window/TextBox.h"
+#include "sale/Amounts.h"
+
+#include <QCheckBox>
+
+namespace {
+bool isAboveZero(const FieldValue &value)
+{
+    return !value.isNull() && value.number() > 0;
+}
+} // namespace
+
+SaleDiscount::SaleDiscount(const Controls &controls, const Texts &texts, QObject *parent)
+    : QObject(parent), ui(controls), m_texts(texts)
+{
+    connect(ui.chkdesconto, &QCheckBox::clicked, this, &SaleDiscount::chkdesconto_Click);
+    connect(ui.txtvalor_desconto, &TextBox::Change, this, &SaleDiscount::recalculate);
+    connect(ui.txtvalor_desconto, &TextBox::GotFocus, this, &SaleDiscount::recalculate);
+    connect(ui.txtvalor_desconto, &TextBox::KeyPress, this, [this](int &KeyAscii) {
+        if (!Bloqueio_Desconto)
+            KeyAscii = Filtrar_Numero(KeyAscii, ui.txtvalor_desconto->text(), false);
+    });
+    connect(ui.txtmotivo, &ComboBox::Click, this, &SaleDiscount::txtmotivo_Click);
+    connect(ui.imgdesconto, &Label::Click, this, &SaleDiscount::imgdesconto_Click);
+}
+
+void SaleDiscount::Listar_Motivos_Descontos()
+{
+    const QString standard = Ler_INI(caminhoConfig(), "Descontos", "Padrao").toUpper();
+    int position = 0;
+    OnErrorResumeNext([&] {
+        Abrir_Banco_Principal();
+        RecordsetHandle rs;
+        rs =
+            Abrir_Recordset(rs, BancoPrincipal, QString("Select * from Descontos Where Codigo>0") + " Order By Codigo");
+        for (; rs && !rs->Eof(); rs->MoveNext()) {
+            ui.txtmotivo->addItem(rs->Fields("Codigo").text());
+            if (rs->Fields("Motivo_Desconto").text().toUpper() == standard)
+                position = ui.txtmotivo->count() - 1;
+        }
+        Fechar_Recordset(rs);
+    });
+    ui.txtmotivo->setCurrentIndex(position);
+    txtmotivo_Click();
+}
+
+QString SaleDiscount::ruleOrder()
+{
+    return "Order By Val(Condicao) Desc, Cdbl(Valor) Desc, cdbl(Relativo) Desc, cdbl(Absoluto) Desc";
+}
+
+void SaleDiscount::TratarDescontosAutomaticos(const QString &valor, const QStringList &conditions)
+{
+    const QString head =
+        "Select Codigo,Fixo,Relativo,Absoluto,Grupo, Categoria, AtoCadastro, Valor, TipoVenda From Descontos Where "
+        "LiberarAuto = True and (((Cdbl(Valor)=Cdbl('" +
+        valor + "') AND Condicao='2') OR (Cdbl(Valor)<=Cdbl('" + valor + "') AND Condicao='1'))) AND ";
+    for (const QString &condition : conditions)
+        if (pickRule(head + condition))
+            return;
+    // The box stays disabled when an earlier total had picked a rule; attendants know it as "this sale had a rule".
+    ui.chkdesconto->setChecked(false);
+}
+
+bool SaleDiscount::pickRule(const QString &sql)
+{
+    QString code;
+    OnErrorResumeNext([&] {
+        Abrir_Banco_Principal();
+        RecordsetHandle rs;
+        rs = Abrir_Recordset(rs, BancoPrincipal, sql);
+        for (; rs && !rs->Eof() && code.isEmpty(); rs->MoveNext())
+            if (isAboveZero(rs->Fields("Relativo")) || isAboveZero(rs->Fields("Absoluto")))
+                code = rs->Fields("Codigo").text();
+        Fechar_Recordset(rs);
+    });
+    if (code.isEmpty())
+        return false;
+    ui.txtmotivo->setCurrentText(code);
+    txtmotivo_Click();
+    ui.chkdesconto->setChecked(true);
+    ui.chkdesconto->setEnabled(false);
+    return true;
+}
+
+void SaleDiscount::Validar_Motivo(quint8 codigo, QString &motivo) const
+{
+    motivo.clear();
+    if (ui.txtmotivo->count() == 0) {
+        motivo = Placeholder::NoMotive;
+        return;
+    }
+    OnErrorResumeNext([&] {
+        Abrir_Banco_Principal();
+        RecordsetHandle rs;
+        rs = Abrir_Recordset(rs, BancoPrincipal, "Select * from Descontos Where Codigo=" + QString::number(codigo));
+        if (rs && !rs->Eof())
+            motivo = rs->Fields("Motivo_Desconto").text();
+        Fechar_Recordset(rs);
+    });
+}
+
+quint8 SaleDiscount::motiveCode() const
+{
+    const double code = Val(QStringView(ui.txtmotivo->currentText()));
+    if (code < 0 || code > 255)
+        throw RunTimeError(ErrorNumber::Overflow, "The number of a motive is a byte.");
+    return static_cast<quint8>(code);
+}
+
+void SaleDiscount::txtmotivo_Click()
+{
+    if (ui.txtmotivo->count() == 0)
+        return;
+    const double code = Val(QStringView(ui.txtmotivo->currentText()));
+    if (Tem_Desconto_Fixo(code)) {
+        ui.txtvalor_desconto->setText(Cstr(Valor_Desconto_Fixo(code, Total_Venda)));
+        ui.txtvalor_desconto->setEnabled(false);
+        return;
+    }
+    if (!ui.txtvalor_desconto->isEnabled())
+        ui.txtvalor_desconto->setText({});
+    ui.txtvalor_desconto->setEnabled(true);
+}
+
+void SaleDiscount::recalculate()
+{
+    if (Bloqueio_Desconto)
+        return;
+    const QString typed = ui.txtvalor_desconto->text();
+    if (ui.txtmotivo->count() > 0) {
+        Motivo_Fixo = Tem_Desconto_Fixo(Val(QStringView(ui.txtmotivo->currentText())));
+        if (!Motivo_Fixo && !typed.isEmpty())
+            ui.chkdesconto->setChecked(true);
+    }
+    if (ui.chkdesconto->isChecked() || !Motivo_Fixo) {
+        Texto_Desconto = typed.isEmpty() || typed == "-" ? QString("0") : blanksAsZeros(typed);
+        OnErrorResumeNext([&] { Valor_Desconto = shownAmount(Texto_Desconto); });
+        if (Valor_Desconto > 0 && Desconto_Marcado)
+            ui.chkdesconto->setChecked(true);
+    }
+    if (!ui.chkdesconto->isChecked()) {
+        Texto_Desconto = "0";
+        Valor_Desconto = 0;
+    }
+    const double rest = shownAmount(Total_Venda) - shownAmount(Valor_Desconto);
+    Total_Final = rest >= 0 ? rest : 0;
+    ui.lbltotal_final->setCaption(withSymbol(Total_Final));
+}
+
+void SaleDiscount::chkdesconto_Click()
+{
+    Desconto_Marcado = ui.chkdesconto->isChecked();
+    if (!Desconto_Marcado && ui.txtvalor_desconto->isEnabled())
+        ui.txtvalor_desconto->setText({});
+    recalculate();
+}
+
+void SaleDiscount::imgdesconto_Click() const
+{
+    QString motive;
+    const QString code = ui.txtmotivo->currentText();
+    OnErrorResumeNext([&] { Validar_Motivo(motiveCode(), motive); });
+    const QString text =
+        motive.isEmpty() ? code + textoIdioma(m_texts.section, m_texts.unknownMotive) : code + " - " + motive;
+    MsgBox(text, vbInformation, textoIdioma(m_texts.section, m_texts.motiveTitle));
+}

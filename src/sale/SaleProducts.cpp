@@ -1,0 +1,159 @@
+#include "sale/SaleProducts.h"
+
+#include "configuration/Globais.h"
+#include "data/Acesso_BD.h"
+#include "data/Placeholders.h"
+#include "platform/base/Err.h"
+#include "platform/window/Forms.h"
+#include "sale/SaleDiscount.h"
+#include "sale/SaleTexts.h"
+#include "ui_frmvenda.h"
+
+namespace {
+constexpr int enterKey = 13;
+constexpr int arrowUp = 38;
+constexpr int arrowDown = 40;
+} // namespace
+
+QString productEntry(const QString &code, const QString &description)
+{
+    return "(" + code + ") " + description;
+}
+
+QString productDescription(const QString &entry)
+{
+    // A code has at most three characters; a bracket further on belongs to the description.
+    const qsizetype end = entry.indexOf(')');
+    return entry.startsWith('(') && end >= 0 && end <= 4 ? entry.mid(end + 2) : entry;
+}
+
+SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, QObject *parent)
+    : QObject(parent), ui(window), m_discount(discount)
+{
+    connect(ui.cmbprodutos, &ComboBox::Click, this, &SaleProducts::cmbprodutos_Click);
+    const auto arrow = [this](int KeyCode) {
+        if (KeyCode == arrowUp || KeyCode == arrowDown)
+            cmbprodutos_Click();
+    };
+    connect(ui.cmbprodutos, &ComboBox::KeyDown, this, arrow);
+    connect(ui.cmbprodutos, &ComboBox::KeyUp, this, arrow);
+    connect(ui.cmbprodutos, &ComboBox::KeyPress, this, [this](int &KeyAscii) {
+        if (KeyAscii != enterKey)
+            return;
+        Buscar_Produtos(ui.cmbprodutos->currentText());
+        cmbprodutos_Click();
+        ui.txtquantidade->setFocus();
+    });
+    connect(ui.txtcod_barra, &TextBox::Change, this, [this] {
+        DoEvents(WaitingInput::Stays);
+        ui.txtcod_barra->setCaretToEnd();
+    });
+    connect(ui.txtcod_barra, &TextBox::KeyPress, this, [this](int &KeyAscii) {
+        if (KeyAscii == enterKey && !m_discount.Bloqueio_Desconto)
+            txtcod_barra_Enter();
+    });
+    // Entered again, the box gives its old code up to the next scan.
+    connect(ui.txtcod_barra, &TextBox::GotFocus, ui.txtcod_barra, &TextBox::selectAll);
+    connect(ui.txtquantidade, &TextBox::GotFocus, ui.txtquantidade, &TextBox::selectAll);
+}
+
+void SaleProducts::Listar_Produtos()
+{
+    ui.cmbprodutos->clear();
+    OnErrorResumeNext([&] {
+        Abrir_Banco_Principal();
+        RecordsetHandle rs;
+        rs = Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Where Codigo <> 1 Order By Descrição");
+        QStringList entries;
+        for (; rs && !rs->Eof(); rs->MoveNext()) {
+            const FieldValue code = rs->Fields("Cod");
+            const QString description = rs->Fields("Descrição").text();
+            const bool coded = !code.isNull() && code.text() != Placeholder::NoProductCode;
+            entries += coded ? productEntry(code.text(), description) : description;
+        }
+        ui.cmbprodutos->addItems(entries);
+        ui.cmbprodutos->setCurrentIndex(-1);
+        Fechar_Recordset(rs);
+    });
+}
+
+bool SaleProducts::Buscar_Produtos(const QString &texto)
+{
+    if (texto.isEmpty())
+        return true;
+    const QString description = texto.toUpper();
+    const QString code = "(" + description;
+    for (int index = 0; index < ui.cmbprodutos->count(); ++index) {
+        const QString entry = ui.cmbprodutos->itemText(index).toUpper();
+        if (entry.startsWith(description) || entry.startsWith(code)) {
+            ui.cmbprodutos->setCurrentIndex(index);
+            return true;
+        }
+    }
+    return false;
+}
+
+void SaleProducts::cmbprodutos_Click()
+{
+    if (m_discount.Bloqueio_Desconto)
+        return;
+    if (!Buscar_Produtos(ui.cmbprodutos->currentText())) {
+        saleNotice("MsgBox2");
+        return;
+    }
+    const QString text = ui.cmbprodutos->currentText();
+    if (text.isEmpty()) {
+        ui.lblpreço_unitario->setCaption(loadedSaleText("String2"));
+        ui.lblquant_estoque->setCaption(loadedSaleText("String3"));
+        return;
+    }
+    Info_Produto(productDescription(text).toUpper());
+}
+
+void SaleProducts::Info_Produto(const QString &descricao)
+{
+    OnErrorResumeNext([&] {
+        Abrir_Banco_Principal();
+        RecordsetHandle rs;
+        rs = Abrir_Recordset(rs, BancoPrincipal,
+                             "Select * from Produtos Where Descrição='" + descricao + "' Order By Descrição");
+        if (!rs || rs->Eof())
+            return;
+        ui.lblpreço_unitario->setCaption(loadedSaleText("String2") + SimboloMoeda + " " +
+                                         rs->Fields("Valor_Unitario").text());
+        ui.lblquant_estoque->setCaption(rs->Fields("Servico").boolean()
+                                            ? loadedSaleText("String4")
+                                            : loadedSaleText("String3") + rs->Fields("Quantidade").text());
+        Fechar_Recordset(rs);
+    });
+}
+
+QString SaleProducts::Retornar_Descrição(const QString &cod_barra)
+{
+    QString entry;
+    OnErrorResumeNext([&] {
+        Abrir_Banco_Principal();
+        RecordsetHandle rs;
+        rs = Abrir_Recordset(rs, BancoPrincipal,
+                             "Select Descrição,Cod From Produtos Where Cod_Barra='" + cod_barra + "'");
+        if (!rs || rs->Eof())
+            return;
+        const QString code = rs->Fields("Cod").text();
+        const QString description = rs->Fields("Descrição").text();
+        entry = code == Placeholder::NoProductCode || code.isEmpty() ? description : productEntry(code, description);
+        Fechar_Recordset(rs);
+    });
+    return entry;
+}
+
+void SaleProducts::txtcod_barra_Enter()
+{
+    const QString entry = Retornar_Descrição(ui.txtcod_barra->text());
+    if (entry.isEmpty()) {
+        saleNotice("MsgBox2");
+        return;
+    }
+    ui.cmbprodutos->setCurrentText(entry);
+    cmbprodutos_Click();
+    ui.txtquantidade->setFocus();
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class SaleDiscount;
+namespace Ui {
+class frmvenda;
+}
+
+/// Text of a product's entry in the combo: the description behind "(code) " where the product has an internal code.
+QString productEntry(const QString &code, const QString &description);
+/// The bare description of such a text.
+QString productDescription(const QString &entry);
+
+/// Finding a product by its name, its internal code or its barcode.
+class SaleProducts : public QObject
+{
+    Q_OBJECT
+
+public:
+    SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, QObject *parent);
+
+    void Listar_Produtos();
+    /// Selects the first entry that begins with a text, or whose internal code does; an empty text counts as found.
+    bool Buscar_Produtos(const QString &texto);
+    void Info_Produto(const QString &descricao);
+    /// Text of the entry of the product with a barcode; empty when there is none.
+    QString Retornar_Descrição(const QString &cod_barra);
+
+    /// What a pick in the combo does.
+    void cmbprodutos_Click();
+
+private:
+    void txtcod_barra_Enter();
+
+    Ui::frmvenda &ui;
+    const SaleDiscount &m_discount;
+};

@@ -1,0 +1,189 @@
+#include "sale/frmvenda.h"
+
+#include "configuration/Arquivos.h"
+#include "configuration/Arquivos_INI.h"
+#include "configuration/Globais.h"
+#include "data/Acesso_BD.h"
+#include "data/Funcoes.h"
+#include "platform/base/Err.h"
+#include "platform/text/Numbers.h"
+#include "platform/window/Forms.h"
+#include "platform/window/Pictures.h"
+#include "sale/Amounts.h"
+#include "sale/ProductRules.h"
+#include "sale/SaleCart.h"
+#include "sale/SaleConfirmation.h"
+#include "sale/SaleCustomers.h"
+#include "sale/SaleDiscount.h"
+#include "sale/SaleProducts.h"
+#include "sale/SaleTexts.h"
+#include "sale/frmconfig_recibo.h"
+#include "ui_frmvenda.h"
+
+namespace {
+constexpr int enterKey = 13;
+constexpr QSize motivePictureSize(20, 20);
+} // namespace
+
+frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
+{
+    ui->setupUi(this);
+    ui->imgdesconto->setPixmap(bundledPicture("imgdesconto", motivePictureSize));
+    // The windows behind these two buttons are still to come.
+    ui->cmdcadastro_clientes->setEnabled(false);
+    ui->cmdcadastro_produtos->setEnabled(false);
+
+    m_discount =
+        new SaleDiscount({ui->chkdesconto, ui->txtvalor_desconto, ui->txtmotivo, ui->imgdesconto, ui->lbltotal_final},
+                         {.section = "frmvenda", .unknownMotive = "MsgBox15", .motiveTitle = "MsgBox15_2"}, this);
+    m_customers = new SaleCustomers(*ui, m_state, *m_discount, this);
+    m_products = new SaleProducts(*ui, *m_discount, this);
+    m_cart = new SaleCart(*ui, m_state, *m_discount, *m_products, this);
+    m_confirmation = std::make_unique<SaleConfirmation>(*this, *ui, m_state, *m_discount, *m_products, *m_cart);
+
+    connect(ui->lbltotal, &Label::Change, this, &frmvenda::lbltotal_Change);
+    connect(ui->lbltotal_final, &Label::Change, this, &frmvenda::lbltotal_final_Change);
+    connectPayment();
+    connect(ui->chkrecibo, &QCheckBox::clicked, this, &frmvenda::chkrecibo_Click);
+    connect(ui->lblconfigurar_recibo, &Label::Click, this, &frmvenda::lblconfigurar_recibo_Click);
+    connect(ui->cmdfinalizar, &QPushButton::clicked, this, [this] { m_confirmation->cmdfinalizar_Click(); });
+    connect(ui->cmdcancelar, &QPushButton::clicked, this, [this] {
+        if (!m_discount->Bloqueio_Desconto)
+            Unload();
+    });
+}
+
+frmvenda::~frmvenda() = default;
+
+void frmvenda::connectPayment()
+{
+    connect(ui->txtvalor_pago, &TextBox::Change, this, &frmvenda::txtvalor_pago_Change);
+    connect(ui->txtvalor_pago, &TextBox::GotFocus, this, &frmvenda::showChange);
+    connect(ui->txtvalor_pago, &TextBox::KeyPress, this, [this](int &KeyAscii) {
+        if (m_discount->Bloqueio_Desconto)
+            return;
+        if (KeyAscii == enterKey)
+            m_confirmation->cmdfinalizar_Click();
+        else
+            KeyAscii = Filtrar_Numero(KeyAscii, ui->txtvalor_pago->text(), false);
+    });
+    connect(ui->optpago, &QRadioButton::clicked, this, [this] {
+        m_state.Debito_Venda = 0;
+        ui->txtvalor_pago->setEnabled(true);
+        ui->txtvalor_pago->setFocus();
+        ui->txtvalor_pago->setText(Cstr(m_discount->Total_Final));
+    });
+    connect(ui->optnão_pago, &QRadioButton::clicked, this, [this] {
+        m_state.Debito_Venda = yesFlag;
+        ui->txtvalor_pago->setEnabled(false);
+    });
+}
+
+void frmvenda::Form_Load()
+{
+    ui->lbldescrição_venda_produtos->setText(loadedSaleText("String10"));
+    Sempre_No_Topo(*this, true);
+    if (Ler_INI(caminhoConfig(), "Recibo Produtos", "Imprimir") == "1")
+        ui->chkrecibo->setChecked(true);
+    m_discount->Listar_Motivos_Descontos();
+    Fechar_Recordsets_Globais();
+    Listar_Clientes();
+    Listar_Produtos();
+    for (TextBox *box : {ui->txtvalor_pago, ui->txtvalor_desconto})
+        if (box->text().contains(' '))
+            box->setText(blanksAsZeros(box->text()));
+    ui->tab_consumo->setCols(4);
+    ui->tab_consumo->setRows(1);
+    ui->tab_consumo->setFormatString("<    |<" + saleText("tab_consumo1") + "|<" + saleText("tab_consumo2") + "|<" +
+                                     saleText("tab_consumo3") + SimboloMoeda + QString(15, ' '));
+    m_state = {};
+    ui->lbltotal->setCaption(withSymbol(0));
+    ui->lbltotal_final->setCaption(withSymbol(0));
+    ui->lbltroco->setCaption(noChangeText());
+    ui->chkdesconto->setChecked(false);
+}
+
+void frmvenda::Form_Activate()
+{
+    m_customers->tab_clientes_Click();
+    m_customers->tab_clientes_SelChange();
+}
+
+void frmvenda::Form_Unload()
+{
+    Fechar_Recordset(RecordsetGlobal1);
+    Fechar_Recordsets_Globais();
+}
+
+void frmvenda::Listar_Clientes()
+{
+    m_customers->Listar_Clientes();
+}
+
+void frmvenda::Listar_Produtos()
+{
+    m_products->Listar_Produtos();
+}
+
+void frmvenda::Adicionar_Produto(const QString &descricao, double quantidade)
+{
+    m_cart->Adicionar_Produto(descricao, quantidade);
+}
+
+void frmvenda::Clicar_Alvuso()
+{
+    if (m_discount->Bloqueio_Desconto)
+        return;
+    ui->optavulsa->setChecked(true);
+    m_customers->optavulsa_Click();
+}
+
+void frmvenda::lbltotal_Change()
+{
+    if (m_discount->Bloqueio_Desconto)
+        return;
+    m_discount->recalculate();
+    lbltotal_final_Change();
+    const bool oneLine = ui->tab_consumo->Rows() == 2;
+    const QString category =
+        oneLine ? Categoria_Do_Produto(ui->tab_consumo->TextMatrix(1, CartColumn::Description).toUpper()) : QString();
+    const QString group = ui->optcliente->isChecked() ? Grupo_Do_Cliente(m_state.Nome_Cliente) : QString();
+    m_discount->TratarDescontosAutomaticos(amountText(m_discount->Total_Venda), productRuleConditions(group, category));
+}
+
+void frmvenda::lbltotal_final_Change()
+{
+    if (ui->optnão_pago->isChecked())
+        ui->txtvalor_pago->setText(Cstr(m_discount->Total_Final));
+}
+
+void frmvenda::txtvalor_pago_Change()
+{
+    DoEvents(WaitingInput::Stays);
+    ui->txtvalor_pago->setCaretToEnd();
+    showChange();
+}
+
+void frmvenda::showChange()
+{
+    if (m_discount->Bloqueio_Desconto)
+        return;
+    const QString text = ui->txtvalor_pago->text();
+    m_state.Texto_Pago = text.isEmpty() ? QString("0") : blanksAsZeros(text);
+    double change = 0;
+    OnErrorResumeNext([&] { change = shownAmount(Cdbl(m_state.Texto_Pago) - m_discount->Total_Final); });
+    ui->lbltroco->setCaption(change > 0 ? withSymbol(change) : noChangeText());
+}
+
+void frmvenda::chkrecibo_Click()
+{
+    Gravar_INI(caminhoConfig(), "Recibo Produtos", "Imprimir", ui->chkrecibo->isChecked() ? "1" : "0");
+}
+
+void frmvenda::lblconfigurar_recibo_Click()
+{
+    ui->chkrecibo->setChecked(true);
+    auto &window = Forms::use<frmconfig_recibo>();
+    window.Show();
+    Sempre_No_Topo(window, true);
+}

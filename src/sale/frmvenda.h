@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/window/Form.h"
+#include "sale/SaleState.h"
+
+#include <memory>
+
+class SaleCart;
+class SaleConfirmation;
+class SaleCustomers;
+class SaleDiscount;
+class SaleProducts;
+namespace Ui {
+class frmvenda;
+}
+
+/// The sale of products over the counter.
+class frmvenda : public Form
+{
+    Q_OBJECT
+
+public:
+    frmvenda();
+    ~frmvenda() override;
+
+    /// Refill the lists, as after a registration.
+    void Listar_Clientes();
+    void Listar_Produtos();
+    /// Puts a quantity of a product into the cart.
+    void Adicionar_Produto(const QString &descricao, double quantidade);
+    /// Forces a walk-in sale from outside the window. The misspelt name is the known one.
+    void Clicar_Alvuso();
+
+protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Unload() override;
+
+private:
+    void connectPayment();
+    void lbltotal_Change();
+    void lbltotal_final_Change();
+    void txtvalor_pago_Change();
+    void showChange();
+    void chkrecibo_Click();
+    void lblconfigurar_recibo_Click();
+
+    std::unique_ptr<Ui::frmvenda> ui;
+    SaleState m_state;
+    SaleDiscount *m_discount;
+    SaleCustomers *m_customers;
+    SaleProducts *m_products;
+    SaleCart *m_cart;
+    std::unique_ptr<SaleConfirmation> m_confirmation;
+};

@@ -1,0 +1,218 @@
+#include "shell/frmprincipal.h"
+
+#include "configuration/Arquivos.h"
+#include "configuration/Arquivos_INI.h"
+#include "configuration/Globais.h"
+#include "configuration/Idiomas.h"
+#include "configuration/Registros.h"
+#include "data/Acesso_BD.h"
+#include "data/Funcoes.h"
+#include "platform/base/Err.h"
+#include "platform/base/Machine.h"
+#include "platform/files/Paths.h"
+#include "platform/print/Printer.h"
+#include "platform/window/Forms.h"
+#include "platform/window/Pictures.h"
+#include "platform/window/Prompts.h"
+#include "sale/frmvenda.h"
+#include "ui_frmprincipal.h"
+
+#include <chrono>
+
+namespace {
+const QString noLanguage = "Idioma não econtrado no caminho especificado! Execute o Administrador antes de rodar o "
+                           "módulo auxiliar! ";
+const QString adviceOnRights = "Certifique-se que o caminho indicado está liberado totalmente para leitura e gravação "
+                               "de dados!";
+const QString badPath = "Caminho do arquivo inválido!";
+const QString noFile = "Arquivo não encontrado!";
+const QString blocked = "A execução do programa está bloqueada. Solicite permissão ao administrador!";
+const QString warning = "Aviso";
+
+constexpr int hourglass = 11;
+constexpr int usualPointer = 0;
+constexpr int fullBar = 100;
+constexpr int barStep = 10;
+constexpr auto barInterval = std::chrono::milliseconds(100);
+constexpr int archiveAttribute = 32;
+constexpr QSize folderPictureSize(20, 20);
+
+QString languageLong()
+{
+    return noLanguage + adviceOnRights;
+}
+
+void notice(const QString &text)
+{
+    MsgBox(text, vbInformation, warning);
+}
+} // namespace
+
+frmprincipal::frmprincipal() : ui(std::make_unique<Ui::frmprincipal>())
+{
+    ui->setupUi(this);
+    ui->cmdbuscabd->setIcon(bundledPicture("pasta", folderPictureSize));
+    const RefusalTexts longTexts{languageLong(), badPath + " " + adviceOnRights, noFile + " " + adviceOnRights};
+    const RefusalTexts shortTexts{noLanguage, badPath, noFile};
+    m_doors = {{ui->cmdclientes, {}, longTexts},
+               {ui->cmdprodutos, {}, shortTexts},
+               {ui->cmdvendaprod, [] { Forms::use<frmvenda>().Show(); }, shortTexts}};
+    for (const Door &door : std::as_const(m_doors))
+        connect(door.button, &QPushButton::clicked, this, [this, &door] { press(door); });
+    connect(ui->txtbasedados, &TextBox::Change, this, [this] { CaminhoAlterado = true; });
+    connect(ui->cmdbuscabd, &QPushButton::clicked, this, &frmprincipal::cmdbuscabd_Click);
+    connect(&temp, &QTimer::timeout, this, &frmprincipal::temp_Timer);
+    startBar();
+}
+
+frmprincipal::~frmprincipal() = default;
+
+void frmprincipal::Form_Load()
+{
+    Carregado = false;
+    ui->barra->setValue(0);
+    ArquivoConfigIni = Machine::current().programFolder() + "\\ConfigIni.txt";
+    CaminhoBD = Ler_INI(ArquivoConfigIni, "Configuracoes", "BD");
+    ui->txtbasedados->setText(CaminhoBD);
+    CaminhoAlterado = false;
+    choosePrinter();
+    Salvar_Escala_Impressora();
+}
+
+void frmprincipal::choosePrinter()
+{
+    const QString wanted =
+        Ler_Registro(R"(HKEY_CURRENT_CONFIG\System\CurrentControlSet\Control\Print\Printers)", "Default");
+    if (wanted == "Error" || wanted.isEmpty())
+        return;
+    const QStringList names = Printers();
+    for (const QString &name : names)
+        if (name.toUpper() == wanted.toUpper()) {
+            Printer::current().setDeviceName(name);
+            return;
+        }
+}
+
+void frmprincipal::Form_Activate()
+{
+    if (!Carregado)
+        OnErrorResumeNext([this] { Carregar(); });
+}
+
+void frmprincipal::readLanguageName()
+{
+    // Always beside the known data file, never beside the one in the path box: a new path takes effect only when a
+    // window is opened.
+    NomeIdioma = Ler_INI(caminhoConfig(), "Config_Regional", "Idioma").toUpper();
+}
+
+void frmprincipal::Carregar()
+{
+    if (ui->txtbasedados->text().isEmpty())
+        return stopLoading();
+    Carregado = true;
+    readLanguageName();
+    if (NomeIdioma.isEmpty()) {
+        MsgBox(languageLong(), vbInformation);
+        return stopLoading();
+    }
+    startBar();
+    DoEvents();
+    Carregar_Idioma();
+    const QString symbol = Ler_INI(caminhoConfig(), "Moeda", "Simbolo");
+    SimboloMoeda = symbol.isEmpty() ? Simbolo_Moeda_Regional() : symbol;
+    enableDoors(true);
+    stopLoading();
+}
+
+void frmprincipal::startBar()
+{
+    ui->barra->setTextVisible(true);
+    temp.start(barInterval);
+}
+
+void frmprincipal::stopLoading()
+{
+    temp.stop();
+    ui->barra->setValue(fullBar);
+    // The bar at rest stays full, and would claim that it still loads.
+    ui->barra->setTextVisible(false);
+}
+
+void frmprincipal::enableDoors(bool enabled)
+{
+    for (const Door &door : std::as_const(m_doors))
+        door.button->setEnabled(enabled && door.show);
+}
+
+void frmprincipal::temp_Timer()
+{
+    DoEvents();
+    ui->barra->setValue(ui->barra->value() + barStep);
+    DoEvents();
+    if (ui->barra->value() == fullBar) {
+        ui->barra->setInvertedAppearance(!ui->barra->invertedAppearance());
+        ui->barra->setValue(0);
+        DoEvents();
+    }
+}
+
+void frmprincipal::cmdbuscabd_Click()
+{
+    FileDialog dialog;
+    dialog.InitDir = Pasta_Do_Arquivo(CaminhoBD);
+    dialog.Filter = "Morvelane.mdb (Morvelane.mdb) |Morvelane.mdb|";
+    dialog.ShowOpen();
+    if (dialog.FileName.isEmpty())
+        return;
+    if (!Existe_Arquivo(dialog.FileName)) {
+        notice(badPath + " " + adviceOnRights);
+        return;
+    }
+    ui->txtbasedados->setText(dialog.FileName);
+    enableDoors(false);
+    Carregar();
+}
+
+void frmprincipal::press(const Door &door)
+{
+    if (!OnErrorGoToEnd([&] { enter(door); }) && Err::Number() == ErrorNumber::BadFileName)
+        notice(door.texts.file);
+}
+
+void frmprincipal::enter(const Door &door)
+{
+    const QString permission = Ler_INI(caminhoConfig(), "Modulo Externo", "Ativo");
+    if (permission.isEmpty() || permission == "0")
+        return notice(blocked);
+    const QString path = ui->txtbasedados->text();
+    if (!path.isEmpty()) {
+        readLanguageName();
+        if (NomeIdioma.isEmpty()) {
+            MsgBox(door.texts.language, vbInformation);
+            return;
+        }
+        if (CaminhoAlterado) {
+            Carregar();
+            CaminhoAlterado = false;
+        }
+    }
+    if (path.isEmpty())
+        return notice(door.texts.path);
+    if (!Existe_Arquivo(path) || Dir(path, archiveAttribute).toUpper() != QString("Morvelane.mdb").toUpper())
+        return notice(door.texts.file);
+
+    CaminhoBD = path;
+    Gravar_INI(ArquivoConfigIni, "Configuracoes", "BD", CaminhoBD);
+    setMousePointer(hourglass);
+    door.show();
+    setMousePointer(usualPointer);
+}
+
+void frmprincipal::Form_Unload()
+{
+    Fechar_Recordsets_Globais();
+    Fechar_BD(BancoPrincipal);
+    Descarregar_Forms();
+    QCoreApplication::quit();
+}
