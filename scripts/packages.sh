@@ -1,0 +1,20 @@
+# Sourced by ./run and ./test: the packages of Debian 12 that each needs, and their installation.
+
+build_packages="g++ cmake ninja-build pkg-config qt6-base-dev libqt6svg6-dev libsqlcipher-dev"
+program_packages="libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-liberation xdg-utils"
+test_packages="git clang-format clang-tidy poppler-utils"
+
+# install_packages NAME...: installs what is missing, with sudo when not root.
+install_packages() {
+    missing=""
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing="$missing $package"
+    done
+    [ -n "$missing" ] || return 0
+    echo "Installing:$missing"
+    as_root=""
+    [ "$(id -u)" -eq 0 ] || as_root="sudo"
+    $as_root apt-get update -qq
+    # shellcheck disable=SC2086
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null
+}
