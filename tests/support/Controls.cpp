@@ -1,0 +1,101 @@
+#include "tests/support/Controls.h"
+
+#include "platform/window/Forms.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QHeaderView>
+#include <QTest>
+
+namespace {
+void takeFocus(QWidget &control)
+{
+    control.window()->activateWindow();
+    control.setFocus();
+}
+
+void typeCharacter(QWidget &control, QChar character)
+{
+    // Qt's own keyClicks knows Latin letters without accents only.
+    QTest::sendKeyEvent(QTest::Click, &control, Qt::Key(character.toUpper().unicode()), QString(character),
+                        Qt::NoModifier);
+}
+} // namespace
+
+Form &loadedWindow(const QString &name)
+{
+    for (Form *form : Forms::loaded())
+        if (form->Name() == name)
+            return *form;
+    qFatal("No window is loaded that is called %s", qPrintable(name));
+}
+
+void failForMissingControl(const QWidget &window, const QString &name)
+{
+    qFatal("%s has no such control: %s", qPrintable(window.objectName()), qPrintable(name));
+}
+
+void click(QWidget &control)
+{
+    // Tick boxes and options take a click on their mark and their text, which may end before the middle.
+    const QPoint place = qobject_cast<QAbstractButton *>(&control) != nullptr
+                             ? QPoint(std::min(8, control.width() / 2), control.height() / 2)
+                             : control.rect().center();
+    QTest::mouseClick(&control, Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void click(const QWidget &window, const QString &name)
+{
+    click(control(window, name));
+}
+
+void pressKey(QWidget &control, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(&control, key, modifiers);
+}
+
+void typeText(QWidget &control, const QString &text)
+{
+    takeFocus(control);
+    for (const QChar character : text)
+        typeCharacter(control, character);
+}
+
+void replaceText(QWidget &control, const QString &text)
+{
+    takeFocus(control);
+    pressKey(control, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty())
+        pressKey(control, Qt::Key_Backspace);
+    typeText(control, text);
+}
+
+void scanBarcode(QWidget &control, const QString &digits)
+{
+    typeText(control, digits);
+    pressKey(control, Qt::Key_Return);
+}
+
+void pickEntry(QComboBox &combo, const QString &entry)
+{
+    const int index = combo.findText(entry);
+    if (index < 0)
+        qFatal("%s has no such entry: %s", qPrintable(combo.objectName()), qPrintable(entry));
+    combo.showPopup();
+    combo.view()->setCurrentIndex(combo.model()->index(index, combo.modelColumn(), combo.rootModelIndex()));
+    pressKey(*combo.view(), Qt::Key_Return);
+}
+
+void clickCell(FlexGrid &grid, int row, int col, Qt::KeyboardModifiers modifiers)
+{
+    if (row == 0) {
+        QHeaderView &headings = *grid.horizontalHeader();
+        const QPoint place(headings.sectionViewportPosition(col) + headings.sectionSize(col) / 2,
+                           headings.height() / 2);
+        QTest::mouseClick(headings.viewport(), Qt::LeftButton, modifiers, place);
+        return;
+    }
+    const QModelIndex cell = grid.model()->index(row - 1, col);
+    grid.scrollTo(cell);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, modifiers, grid.visualRect(cell).center());
+}

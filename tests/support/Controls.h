@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/window/FlexGrid.h"
+#include "platform/window/Form.h"
+
+#include <QComboBox>
+
+// What an attendant does with hand and keyboard, through real events.
+
+/// A loaded window by its name; the program ends when there is none.
+Form &loadedWindow(const QString &name);
+
+[[noreturn]] void failForMissingControl(const QWidget &window, const QString &name);
+
+/// A control of a window by its name; the program ends when there is none of this kind.
+template <typename Control = QWidget>
+Control &control(const QWidget &window, const QString &name)
+{
+    if (auto *found = window.findChild<Control *>(name))
+        return *found;
+    failForMissingControl(window, name);
+}
+
+void click(QWidget &control);
+void click(const QWidget &window, const QString &name);
+
+void pressKey(QWidget &control, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+/// Types at the caret, key by key.
+void typeText(QWidget &control, const QString &text);
+/// Selects what stands in the box and types over it; an empty text deletes it.
+void replaceText(QWidget &control, const QString &text);
+/// A scanner's way of typing: all digits and Enter in immediate succession.
+void scanBarcode(QWidget &control, const QString &digits);
+
+/// Drops the list down and takes an entry.
+void pickEntry(QComboBox &combo, const QString &entry);
+
+/// Clicks a cell; row 0 is the headings.
+void clickCell(FlexGrid &grid, int row, int col, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

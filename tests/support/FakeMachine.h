@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/base/Machine.h"
+
+#include <QHash>
+#include <QTemporaryDir>
+
+#include <functional>
+
+/// A computer under a test's control, in force as long as it lives: its clock stands still but for the program's
+/// sleeps, and it has no printer, so that printouts become PDF files.
+class FakeMachine
+{
+public:
+    FakeMachine();
+    ~FakeMachine();
+    FakeMachine(const FakeMachine &) = delete;
+    FakeMachine &operator=(const FakeMachine &) = delete;
+
+    QDateTime clock{QDate(2024, 3, 15), QTime(14, 30, 5)};
+    /// Runs at each sleep of the program.
+    std::function<void()> whileAsleep;
+    QList<int> sleeps;
+    QStringList sounds;
+    QStringList openedDocuments;
+    QHash<int, QString> portDevices;
+    QStringList printerNames;
+    QString defaultPrinter;
+
+    /// A new, empty file that stands for the device of a printer port.
+    QString installPort(int port);
+    /// Files in the folder for printouts, in the order of their names.
+    QStringList printouts() const;
+    /// From here on every printout is refused.
+    void breakPrinter();
+
+private:
+    QTemporaryDir m_folder;
+    QString m_printoutFolder;
+    Machine m_saved;
+};

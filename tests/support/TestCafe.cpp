@@ -1,0 +1,144 @@
+#include "tests/support/TestCafe.h"
+
+#include "configuration/Arquivos_INI.h"
+#include "configuration/Globais.h"
+#include "configuration/Idiomas.h"
+#include "data/Acesso_BD.h"
+#include "data/Funcoes.h"
+#include "platform/base/Err.h"
+#include "platform/base/Machine.h"
+#include "platform/print/Printer.h"
+#include "platform/text/RegionalSettings.h"
+#include "platform/window/Forms.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <filesystem>
+#include <utility>
+
+namespace {
+/// A café from which tests take their copies: it is made once for a run, as a new data file takes its time.
+QString sampleFolder(const QLocale &region, const CafeOptions &options)
+{
+    static const QTemporaryDir samples;
+    const QString folder = samples.filePath(QString("%1-%2-%3-%4-%5-%6")
+                                                .arg(region.name())
+                                                .arg(options.demo)
+                                                .arg(options.customers)
+                                                .arg(options.products)
+                                                .arg(options.sales)
+                                                .arg(options.oti));
+    if (!QDir(folder).exists())
+        createCafe(folder, options);
+    return folder;
+}
+
+void forgetProgram()
+{
+    Descarregar_Forms();
+    DoEvents();
+    Fechar_Recordsets_Globais();
+    Fechar_BD(BancoPrincipal);
+    CaminhoBD.clear();
+    NomeIdioma.clear();
+    SimboloMoeda.clear();
+    IdCaixa = 0;
+    Printer::current() = Printer();
+    Err::Clear();
+}
+} // namespace
+
+TestCafe::TestCafe(const QLocale &region, const CafeOptions &options)
+    : m_savedProgramFolder(Machine::current().programFolder)
+{
+    forgetProgram();
+    RegionalSettings::use(region);
+    std::filesystem::copy(sampleFolder(region, options).toStdString(), folder().toStdString(),
+                          std::filesystem::copy_options::recursive);
+    QDir().mkpath(programFolder());
+    Gravar_INI(programFolder() + "\\ConfigIni.txt", "Configuracoes", "BD", dataFile());
+    Machine::current().programFolder = [folder = programFolder()] { return folder; };
+}
+
+TestCafe::~TestCafe()
+{
+    forgetProgram();
+    Machine::current().programFolder = m_savedProgramFolder;
+    RegionalSettings::use(QLocale::system());
+}
+
+void TestCafe::start()
+{
+    CaminhoBD = dataFile();
+    NomeIdioma = ini("Config_Regional", "Idioma").toUpper();
+    SimboloMoeda = ini("Moeda", "Simbolo");
+    if (SimboloMoeda.isEmpty())
+        SimboloMoeda = Simbolo_Moeda_Regional();
+    Carregar_Idioma();
+}
+
+QString TestCafe::folder() const
+{
+    return m_folder.filePath("cafe");
+}
+
+QString TestCafe::programFolder() const
+{
+    return m_folder.filePath("program");
+}
+
+QList<QStringList> TestCafe::query(const QString &sql)
+{
+    QList<QStringList> rows;
+    for (const RecordsetHandle rs = database().OpenRecordset(sql); !rs->Eof(); rs->MoveNext()) {
+        QStringList row;
+        for (int field = 0; field < rs->FieldCount(); ++field)
+            row.append(rs->Fields(field).text());
+        rows.append(row);
+    }
+    return rows;
+}
+
+QString TestCafe::value(const QString &sql)
+{
+    const QList<QStringList> rows = query(sql);
+    return rows.isEmpty() ? QString() : rows.first().value(0);
+}
+
+void TestCafe::execute(const QString &sql)
+{
+    database().Execute(sql);
+}
+
+QString TestCafe::ini(const QString &section, const QString &key) const
+{
+    return Ler_INI(path("config.ini"), section, key);
+}
+
+void TestCafe::setIni(const QString &section, const QString &key, const QString &value)
+{
+    Gravar_INI(path("config.ini"), section, key, value);
+}
+
+QByteArray TestCafe::readFile(const QString &name) const
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("Cannot read %s", qPrintable(file.fileName()));
+    return file.readAll();
+}
+
+void TestCafe::writeFile(const QString &name, const QByteArray &content)
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("Cannot write %s", qPrintable(file.fileName()));
+}
+
+Database &TestCafe::database()
+{
+    if (!m_database)
+        m_database = openDataFile(folder());
+    return *m_database;
+}

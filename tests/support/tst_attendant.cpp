@@ -1,0 +1,68 @@
+#include "tests/support/Attendant.h"
+
+#include <QApplication>
+#include <QTest>
+
+/// A test of windows is worth what its attendant notices.
+class tst_attendant : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { failures.clear(); }
+
+    void answersWhatWasExpected()
+    {
+        {
+            int turns = 0;
+            Attendant attendant(sink());
+            attendant.expectNotice("saved", "title", [&] { ++turns; });
+            attendant.expect("sell?", vbYesNo + vbQuestion, "title", vbYes);
+            attendant.expectOpenFile("Photos|*.jpg", "/photo.jpg");
+            attendant.expectSaveFile("Texts|*.txt", {});
+            QCOMPARE(MsgBox("saved", vbInformation, "title"), int(vbOK));
+            QCOMPARE(turns, 1);
+            QCOMPARE(MsgBox("sell?", vbYesNo + vbQuestion, "title"), int(vbYes));
+            FileDialog dialog{{}, "Photos|*.jpg", {}, {}};
+            dialog.ShowOpen();
+            QCOMPARE(dialog.FileName, QString("/photo.jpg"));
+            dialog.Filter = "Texts|*.txt";
+            dialog.ShowSave();
+            QCOMPARE(dialog.FileName, QString());
+            QCOMPARE(attendant.boxes().size(), 4);
+        }
+        QCOMPARE(failures, QStringList());
+    }
+
+    void noticesWhatIsNotAsExpected()
+    {
+        {
+            Attendant attendant(sink());
+            QCOMPARE(MsgBox("delete?", vbYesNo), int(vbNo));
+            QCOMPARE(failures.size(), 1);
+            const auto expectThenShow = [&](const QString &text, int style, const QString &title) {
+                attendant.expectNotice("saved", "title");
+                MsgBox(text, style, title);
+            };
+            expectThenShow("deleted", vbInformation, "title");
+            expectThenShow("saved", vbInformation + vbYesNo, "title");
+            expectThenShow("saved", vbInformation, "another");
+            QCOMPARE(failures.size(), 4);
+            attendant.expect("sell?", vbYesNo, {}, vbOK);
+            QCOMPARE(failures.size(), 5);
+        }
+        // The last one never came.
+        QCOMPARE(failures.size(), 6);
+    }
+
+private:
+    Attendant::FailureSink sink()
+    {
+        return [this](const QString &what) { failures.append(what); };
+    }
+
+    QStringList failures;
+};
+
+QTEST_MAIN(tst_attendant)
+#include "tst_attendant.moc"
