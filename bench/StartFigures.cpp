@@ -1,0 +1,43 @@
+#include "bench/StartFigures.h"
+
+#include "bench/Figures.h"
+#include "cafe/Cafe.h"
+#include "configuration/Arquivos_INI.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <stdexcept>
+
+namespace {
+QString programPath(const QString &name)
+{
+    return QCoreApplication::applicationDirPath() + '/' + name;
+}
+
+QByteArray outputOf(const QString &program, const QStringList &arguments = {})
+{
+    QProcess process;
+    process.start(programPath(program), arguments);
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        throw std::runtime_error(program.toStdString() + " failed");
+    return process.readAllStandardOutput();
+}
+
+double secondsOfProcess(const QString &program)
+{
+    return secondsOf([&] { outputOf(program); });
+}
+} // namespace
+
+void addStartFigures(FigureTable &table, const QString &cafe)
+{
+    Gravar_INI(programPath("ConfigIni.txt"), "Configuracoes", "BD", dataFileOf(cafe));
+    table.add("process start to Ready",
+              ratioOfMedians(
+                  21, [] { return secondsOfProcess("terminal-until-ready"); },
+                  [] { return secondsOfProcess("bare-window"); }),
+              1.5);
+    table.add("resident memory in MiB, sale window over 32,767 customers",
+              outputOf("sale-window-memory", {dataFileOf(cafe)}).trimmed().toDouble() / 1024, 120);
+}

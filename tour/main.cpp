@@ -1,0 +1,31 @@
+#include "platform/base/Err.h"
+#include "platform/text/RegionalSettings.h"
+#include "platform/window/Application.h"
+#include "tour/ProductSales.h"
+#include "tour/Tour.h"
+
+#include <QTextStream>
+
+// Works the real windows on a fresh demo café as an attendant would. Ends with 1 when anything differed from what was
+// expected, with 2 when it could not begin.
+int main(int argc, char **argv)
+{
+    Application application(argc, argv);
+    RegionalSettings::use(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    const QStringList arguments = Application::arguments();
+    if (arguments.size() != 2) {
+        QTextStream(stderr) << "Usage: morvelane-tour FOLDER\n";
+        return 2;
+    }
+    try {
+        Tour tour(arguments.at(1));
+        tourProductSales(tour);
+        tour.chapter("What the data file holds");
+        tour.tellStoredSales();
+        tour.attendant().finish();
+        return tour.failed() ? 1 : 0;
+    } catch (const RunTimeError &error) {
+        QTextStream(stderr) << error.Description() << '\n';
+        return 2;
+    }
+}
