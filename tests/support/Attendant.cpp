@@ -1,5 +1,6 @@
 #include "tests/support/Attendant.h"
 
+#include <QGuiApplication>
 #include <QTest>
 
 #include <utility>
@@ -9,6 +10,12 @@ QString describe(const Attendant::Box &box)
 {
     static constexpr const char *kinds[] = {"message", "open dialog", "save dialog"};
     return QString("%1 \"%2\", style %3, title \"%4\"").arg(kinds[box.kind], box.text).arg(box.style).arg(box.title);
+}
+
+/// The title under which a box without one of its own comes.
+QString shownTitle(const QString &title)
+{
+    return title.isEmpty() ? QGuiApplication::applicationDisplayName() : title;
 }
 } // namespace
 
@@ -25,10 +32,11 @@ Attendant::~Attendant()
 
 void Attendant::expect(const QString &text, int style, const QString &title, int answer, const Action &meanwhile)
 {
+    const Box box{Box::Message, text, style, shownTitle(title)};
     const bool asksYesNo = (style & vbYesNo) != 0;
     if (asksYesNo != (answer == vbYes || answer == vbNo))
-        m_sink("No button for this answer: " + describe({Box::Message, text, style, title}));
-    m_expected.append({{Box::Message, text, style, title}, answer, {}, meanwhile});
+        m_sink("No button for this answer: " + describe(box));
+    m_expected.append({box, answer, {}, meanwhile});
 }
 
 void Attendant::expectNotice(const QString &text, const QString &title, const Action &meanwhile)
@@ -73,7 +81,7 @@ QString Attendant::saveFile(const FileDialog &dialog)
 
 QString Attendant::chooseFile(Box::Kind kind, const FileDialog &dialog)
 {
-    const auto expected = meet({kind, dialog.Filter, 0, dialog.DialogTitle});
+    const auto expected = meet({kind, dialog.Filter, 0, {}});
     return expected ? expected->file : QString();
 }
 

@@ -31,7 +31,7 @@ FakeMachine::~FakeMachine()
 
 QString FakeMachine::installPort(int port)
 {
-    const QString device = m_folder.filePath(QString("device%1").arg(port));
+    QString device = m_folder.filePath(QString("device%1").arg(port));
     QFile file(device);
     if (!file.open(QIODevice::WriteOnly))
         qFatal("No file for a printer port: %s", qPrintable(device));

@@ -22,13 +22,13 @@ namespace {
 QString sampleFolder(const QLocale &region, const CafeOptions &options)
 {
     static const QTemporaryDir samples;
-    const QString folder = samples.filePath(QString("%1-%2-%3-%4-%5-%6")
-                                                .arg(region.name())
-                                                .arg(options.demo)
-                                                .arg(options.customers)
-                                                .arg(options.products)
-                                                .arg(options.sales)
-                                                .arg(options.oti));
+    QString folder = samples.filePath(QString("%1-%2-%3-%4-%5-%6")
+                                          .arg(region.name())
+                                          .arg(options.demo)
+                                          .arg(options.customers)
+                                          .arg(options.products)
+                                          .arg(options.sales)
+                                          .arg(options.oti));
     if (!QDir(folder).exists())
         createCafe(folder, options);
     return folder;
