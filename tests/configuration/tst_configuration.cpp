@@ -1,0 +1,127 @@
+#include "configuration/Arquivos.h"
+#include "configuration/Arquivos_INI.h"
+#include "configuration/Globais.h"
+#include "configuration/Idiomas.h"
+#include "configuration/Registros.h"
+#include "platform/base/Err.h"
+#include "tests/support/Attendant.h"
+#include "tests/support/FakeMachine.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+class tst_configuration : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        folder.emplace();
+        QDir(folder->path()).mkdir("Languages");
+        CaminhoBD = folder->path() + "/Morvelane.mdb";
+        NomeIdioma = "PORTUGUES.LNG";
+    }
+
+    void existenceClearsTheErrorState()
+    {
+        Gravar_INI(caminhoConfig(), "Moeda", "Simbolo", "R$");
+        const QString cafe = folder->path();
+        for (const auto &[path, there] : std::initializer_list<std::pair<QString, bool>>{
+                 {caminhoConfig(), true}, {cafe, true}, {cafe + "/none.ini", false}, {"", false}}) {
+            Err::set(RunTimeError(ErrorNumber::UnrecognisedFormat, {}));
+            QCOMPARE(Existe_Arquivo(path), there);
+            QCOMPARE(Err::Number(), 0);
+        }
+        QCOMPARE(Pasta_Do_Arquivo("C:\\cafe\\Morvelane.mdb"), QString("C:\\cafe\\"));
+        QCOMPARE(Pasta_Do_Arquivo("/srv/cafe/\\Morvelane.mdb"), QString("/srv/cafe/\\"));
+        QCOMPARE(Pasta_Do_Arquivo("Morvelane.mdb"), QString("Morvelane.mdb"));
+    }
+
+    void valuesComeAsTheyStand()
+    {
+        for (const auto &[value, read] : std::initializer_list<std::pair<QString, QString>>{
+                 {" 0", " 0"}, {"\"R$\"", "\"R$\""}, {"", ""}, {QString(300, u'ã'), QString(254, u'ã')}}) {
+            Gravar_INI(caminhoConfig(), "Modulo Externo", "Ativo", value);
+            QCOMPARE(Ler_INI(caminhoConfig(), "MODULO externo", "ativo"), read);
+        }
+        // Another path is followed at once, and what can't be written there is lost without a word.
+        CaminhoBD = "/dev/null/Morvelane.mdb";
+        Gravar_INI(caminhoConfig(), "Modulo Externo", "Ativo", "1");
+        QCOMPARE(Ler_INI(caminhoConfig(), "Modulo Externo", "Ativo"), QString());
+    }
+
+    void registryAnswersTheDefaultPrinter()
+    {
+        const QString key = "HKEY_CURRENT_CONFIG\\System\\CurrentControlSet\\Control\\Print\\Printers";
+        FakeMachine machine;
+        machine.defaultPrinter = "  EPSON LX-300 ";
+        QCOMPARE(Ler_Registro(key, "Default"), QString("EPSON LX-300"));
+        QCOMPARE(Ler_Registro(key, "Another"), QString("Error"));
+        QCOMPARE(Ler_Registro("HKEY_USERS\\System", "Default"), QString("Error"));
+        QCOMPARE(Ler_Registro("HKEY_NOBODY\\System", "Default"), QString());
+
+        Attendant attendant;
+        attendant.expect("Incorrect Format:\n\nHKEY_CURRENT_CONFIG\\", vbOKOnly, {});
+        QCOMPARE(Ler_Registro("HKEY_CURRENT_CONFIG\\", "Default"), QString());
+        QCOMPARE(Codigo_Raiz_Registro("HKEY_DYN_DATA"), 0x80000006);
+        QCOMPARE(Texto_Erro_Registro(1015), QString("The Registry Database is corrupt!"));
+        QCOMPARE(Texto_Erro_Registro(99), QString("Undefined Error Code:  99"));
+    }
+
+    void textsComeFromTheFirstFileThatHoldsThem()
+    {
+        write("PORTUGUES5.LNG", "String1", "'five'");
+        QCOMPARE(textoIdioma("frmvenda", "String1"), QString("five"));
+        write("PORTUGUES3.LNG", "String1", "'three'");
+        write("PORTUGUES1.LNG", "String1", "");
+        QCOMPARE(textoIdioma("frmvenda", "String1"), QString("three"));
+        write("PORTUGUES6.LNG", "String2", "'six'");
+        QCOMPARE(textoIdioma("frmvenda", "String2"), QString());
+        NomeIdioma = "PT";
+        QCOMPARE(textoIdioma("frmvenda", "String1"), QString());
+    }
+
+    void delimitersAreCutWhateverTheyAre()
+    {
+        for (const auto &[value, text] :
+             std::initializer_list<std::pair<QString, QString>>{{"\"Preço: \"", "Preço: "},
+                                                                {"Total", "ota"},
+                                                                {"''", ""},
+                                                                {"x", "x"},
+                                                                {"'" + QString(600, u'é') + "'", QString(497, u'é')}}) {
+            write("PORTUGUES1.LNG", "String1", value);
+            QCOMPARE(textoIdioma("frmvenda", "String1"), text);
+        }
+    }
+
+    void loadedTextsStayWhileDirectReadsFollow()
+    {
+        bool timerRan = false;
+        QTimer::singleShot(0, this, [&] { timerRan = true; });
+        write("PORTUGUES1.LNG", "String7_3", "'texto'");
+        write("ENGLISH1.LNG", "String7_3", "'text'");
+        Carregar_Idioma();
+        QVERIFY(timerRan);
+
+        NomeIdioma = "ENGLISH.LNG";
+        QCOMPARE(textoIdioma("frmvenda", "String7_3"), QString("text"));
+        QCOMPARE(textoCarregado("frmvenda", "String7_3"), QString("texto"));
+        Carregar_Idioma();
+        QCOMPARE(textoCarregado("frmvenda", "String7_3"), QString("text"));
+    }
+
+private:
+    void write(const QString &file, const QString &key, const QString &value)
+    {
+        Gravar_INI(folder->path() + "\\Languages\\" + file, "frmvenda", key, value);
+    }
+
+    std::optional<QTemporaryDir> folder;
+};
+
+QTEST_MAIN(tst_configuration)
+#include "tst_configuration.moc"

@@ -1,0 +1,127 @@
+#include "configuration/Globais.h"
+#include "data/Acesso_BD.h"
+#include "platform/base/Err.h"
+#include "platform/files/TextOutput.h"
+#include "tests/support/TestCafe.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTest>
+
+class tst_acesso_bd : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        cafe.emplace();
+        cafe->start();
+    }
+    void cleanup() { cafe.reset(); }
+
+    void theOpenHandleOutlivesItsPath()
+    {
+        QVERIFY(canAsk());
+        const DatabaseHandle first = BancoPrincipal;
+        CaminhoBD = "/nowhere/Morvelane.mdb";
+        QVERIFY(canAsk());
+        QVERIFY(!Existe_Tabela("Produtos"));
+        QCOMPARE(BancoPrincipal, first);
+
+        // A connection that broke isn't opened anew.
+        CaminhoBD = cafe->dataFile();
+        first->Close();
+        QVERIFY(!canAsk());
+        QCOMPARE(BancoPrincipal, first);
+        Fechar_BD(BancoPrincipal);
+        QVERIFY(canAsk());
+    }
+
+    void aFileThatCannotBeOpenedGivesNoHandleAndStays()
+    {
+        QString path = cafe->path("broken.mdb");
+        for (const QByteArray &content : {QByteArray(), QByteArray("Morvelane"), QByteArray(8192, 'Z'),
+                                          QByteArray("SQLite format 3").leftJustified(8192, '\0')}) {
+            cafe->writeFile("broken.mdb", content);
+            const QStringList before = QDir(cafe->folder()).entryList();
+            DatabaseHandle handle;
+            QVERIFY(!Abrir_BD(path, 0, 3, textoConexao(), handle));
+            QVERIFY(!handle);
+            // No repair was tried, since the error is forgotten by then.
+            QCOMPARE(Err::Number(), 0);
+            QCOMPARE(cafe->readFile("broken.mdb"), content);
+            QCOMPARE(QDir(cafe->folder()).entryList(), before);
+        }
+        DatabaseHandle handle;
+        QVERIFY(!Abrir_BD(CaminhoBD, 0, 3, ";PWD=another", handle));
+        QVERIFY(Abrir_BD(CaminhoBD, 0, 3, textoConexao(), handle));
+        Fechar_BD(handle);
+    }
+
+    void aVanishedFolderIsTriedAgain()
+    {
+        const QString away = cafe->folder() + "-away";
+        QVERIFY(QDir().rename(cafe->folder(), away));
+        QVERIFY(!canAsk());
+        QVERIFY(!Existe_Tabela("Produtos"));
+        QVERIFY(!QDir(cafe->folder()).exists());
+        QVERIFY(QDir().rename(away, cafe->folder()));
+        QVERIFY(canAsk());
+        QVERIFY(Existe_Tabela("PRODUTOS"));
+        QVERIFY(!Existe_Tabela("Produto"));
+    }
+
+    void aQueryClosesItsTargetFirst()
+    {
+        RecordsetHandle rs;
+        QVERIFY(Abrir_Recordset(rs, BancoPrincipal, "Select Nome From Clientes"));
+        const RecordsetHandle before = rs;
+        QVERIFY(!Abrir_Recordset(rs, BancoPrincipal, "Select Nome From No_Such_Table"));
+        QVERIFY(!rs);
+        QVERIFY(Err::Number() != 0);
+        QVERIFY_EXCEPTION_THROWN(before->MoveNext(), RunTimeError);
+
+        Err::set(RunTimeError(ErrorNumber::BadSql, {}));
+        Fechar_Recordset(rs);
+        QCOMPARE(Err::Number(), 0);
+        for (RecordsetHandle *global : {&RecordsetGlobal1, &RecordsetGlobal2, &RecordsetGlobal3})
+            QVERIFY(Abrir_Recordset_Opcoes(*global, BancoPrincipal, "Select Nome From Clientes", dbOpenDynaset,
+                                           dbSeeChanges));
+        Fechar_Recordsets_Globais();
+        QVERIFY(!RecordsetGlobal1 && !RecordsetGlobal2 && !RecordsetGlobal3);
+    }
+
+    void foldersAndBlankLines()
+    {
+        const QString current = QDir::currentPath();
+        for (const auto &[path, parent] :
+             std::initializer_list<std::pair<QString, QString>>{{"/srv/cafe/\\Morvelane.mdb", "/srv/cafe"},
+                                                                {"C:\\cafe\\\\\\", "C:\\cafe"},
+                                                                {"Morvelane.mdb", current},
+                                                                {"C:Morvelane.mdb", current}})
+            QCOMPARE(Extrair_Pasta(path), parent);
+
+        TextOutput file;
+        file.Open(cafe->path("receipt.txt"));
+        for (const int count : {-1, 0, 3})
+            Linhas_Em_Branco(count, file);
+        file.Close();
+        QCOMPARE(cafe->readFile("receipt.txt"), QByteArray("\r\n\r\n\r\n"));
+    }
+
+private:
+    /// Whether the main handle answers a query.
+    static bool canAsk()
+    {
+        RecordsetHandle rs;
+        const bool answered = Abrir_Recordset(rs, BancoPrincipal, "Select Count(*) From Produtos") != nullptr;
+        Fechar_Recordset(rs);
+        return answered;
+    }
+
+    std::optional<TestCafe> cafe;
+};
+
+QTEST_MAIN(tst_acesso_bd)
+#include "tst_acesso_bd.moc"
