@@ -13,10 +13,8 @@ namespace {
 std::optional<IniText> readIni(const QString &path)
 {
     QFile file(path);
-    if (!file.exists())
-        return IniText({});
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return {};
+        return file.exists() ? std::nullopt : std::optional(IniText({}));
     QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return {};

@@ -8,9 +8,53 @@
 namespace {
 constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
 
+/// A line without its end; `next` is where the following one begins.
+struct Line
+{
+    QByteArrayView text;
+    qsizetype next;
+};
+
+Line lineAt(QByteArrayView bytes, qsizetype begin)
+{
+    const qsizetype feed = bytes.indexOf('\n', begin);
+    const qsizetype end = feed < 0 ? bytes.size() : feed;
+    QByteArrayView text = bytes.sliced(begin, end - begin);
+    if (text.endsWith('\r'))
+        text.chop(1);
+    return {text, feed < 0 ? end : feed + 1};
+}
+
+/// Whether nothing but blanks stands between the last line end and here.
+bool beginsLine(QByteArrayView before)
+{
+    while (before.endsWith(' ') || before.endsWith('\t') || before.endsWith('\r'))
+        before.chop(1);
+    return before.isEmpty() || before.endsWith('\n');
+}
+
 bool isAscii(QByteArrayView bytes)
 {
     return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+/// Each text is looked at for itself: a program of Windows may have added its lines to a UTF-8 file of ours.
+QString decoded(QByteArrayView part)
+{
+    if (isAscii(part))
+        return QString::fromLatin1(part);
+    return part.isValidUtf8() ? QString::fromUtf8(part) : fromWindows1252(part);
+}
+
+bool isNamed(QByteArrayView name, QStringView wanted)
+{
+    name = name.trimmed();
+    // No encoding takes fewer bytes than the text has units; this spares most names the comparison.
+    if (name.size() < wanted.size())
+        return false;
+    if (isAscii(name))
+        return name.size() == wanted.size() && wanted.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0;
+    return decoded(name).compare(wanted, Qt::CaseInsensitive) == 0;
 }
 } // namespace
 
@@ -40,83 +84,65 @@ void IniText::setValue(const QString &section, const QString &key, const QString
             text.prepend(lineEnd());
     }
     m_bytes.replace(place.begin, place.end - place.begin, encoded(text));
-    m_isUtf8.reset();
 }
 
 IniText::Place IniText::find(QStringView section, QStringView key) const
 {
-    const QByteArrayView all(m_bytes);
     Place place;
-    place.begin = place.end = all.size();
-    qsizetype next = 0;
-    for (qsizetype begin = m_start; begin < all.size(); begin = next) {
-        const qsizetype feed = all.indexOf('\n', begin);
-        const qsizetype end = feed < 0 ? all.size() : feed;
-        next = feed < 0 ? end : end + 1;
-        QByteArrayView line = all.sliced(begin, end - begin);
-        if (line.endsWith('\r'))
-            line.chop(1);
+    place.begin = place.end = m_bytes.size();
+    const std::optional<qsizetype> lines = findSection(section);
+    if (!lines)
+        return place;
 
-        const QByteArrayView content = line.trimmed();
-        const qsizetype bracket = content.startsWith('[') ? content.indexOf(']') : -1;
-        if (bracket > 0) {
-            if (place.sectionFound)
-                break;
-            place.sectionFound = isNamed(content.sliced(1, bracket - 1), section);
-            if (place.sectionFound)
-                place.begin = place.end = next;
-        } else if (place.sectionFound && !content.startsWith(';')) {
-            const qsizetype equals = line.indexOf('=');
-            if (equals < 0)
-                continue;
-            if (isNamed(line.first(equals), key)) {
-                place.keyFound = true;
-                place.begin = begin + equals + 1;
-                place.end = begin + line.size();
-                break;
-            }
-            place.begin = place.end = next;
+    place.sectionFound = true;
+    place.begin = place.end = *lines;
+    const QByteArrayView all(m_bytes);
+    qsizetype next = 0;
+    for (qsizetype begin = *lines; begin < all.size(); begin = next) {
+        const Line line = lineAt(all, begin);
+        next = line.next;
+        const QByteArrayView content = line.text.trimmed();
+        if (content.startsWith('[') && content.contains(']'))
+            break;
+        const qsizetype equals = line.text.indexOf('=');
+        if (equals < 0 || content.startsWith(';'))
+            continue;
+        if (isNamed(line.text.first(equals), key)) {
+            place.keyFound = true;
+            place.begin = begin + equals + 1;
+            place.end = begin + line.text.size();
+            break;
         }
+        place.begin = place.end = next;
     }
     return place;
 }
 
-bool IniText::isNamed(QByteArrayView name, QStringView wanted) const
+std::optional<qsizetype> IniText::findSection(QStringView section) const
 {
-    name = name.trimmed();
-    // No encoding takes fewer bytes than the text has units; this spares most names the comparison.
-    if (name.size() < wanted.size())
-        return false;
-    if (isAscii(name))
-        return name.size() == wanted.size() && wanted.compare(QLatin1StringView(name), Qt::CaseInsensitive) == 0;
-    return decoded(name).compare(wanted, Qt::CaseInsensitive) == 0;
-}
-
-bool IniText::isUtf8() const
-{
-    if (!m_isUtf8)
-        m_isUtf8 = m_start > 0 || QByteArrayView(m_bytes).isValidUtf8();
-    return *m_isUtf8;
-}
-
-QString IniText::decoded(QByteArrayView part) const
-{
-    if (isAscii(part))
-        return QString::fromLatin1(part);
-    return isUtf8() ? QString::fromUtf8(part) : fromWindows1252(part);
+    const QByteArrayView all(m_bytes);
+    // Brackets are few, so they are sought first and then asked whether they begin a line.
+    for (qsizetype open = all.indexOf('[', m_start); open >= 0; open = all.indexOf('[', open + 1)) {
+        if (!beginsLine(all.sliced(m_start, open - m_start)))
+            continue;
+        const Line line = lineAt(all, open);
+        const qsizetype close = line.text.indexOf(']');
+        if (close > 0 && isNamed(line.text.sliced(1, close - 1), section))
+            return line.next;
+    }
+    return {};
 }
 
 QByteArray IniText::encoded(const QString &text) const
 {
-    const QByteArray utf8 = text.toUtf8();
     const QByteArray narrow = toWindows1252(text);
-    if (!isUtf8())
+    if (m_start == 0 && !QByteArrayView(m_bytes).isValidUtf8())
         return narrow;
     // A file without any accent yet has no encoding to keep. It is shared with programs of Windows, so their code page
     // comes first, unless it lacks a character or its bytes would read as another text in UTF-8.
-    const bool open = m_start == 0 && isAscii(m_bytes);
+    const bool undecided = m_start == 0 && isAscii(m_bytes);
     const bool fits = fromWindows1252(narrow) == text && !QByteArrayView(narrow).isValidUtf8();
-    return open && fits ? narrow : utf8;
+    return undecided && fits ? narrow : text.toUtf8();
 }
 
 QString IniText::lineEnd() const

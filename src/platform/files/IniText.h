@@ -31,14 +31,12 @@ private:
     };
 
     Place find(QStringView section, QStringView key) const;
-    bool isNamed(QByteArrayView name, QStringView wanted) const;
-    bool isUtf8() const;
-    QString decoded(QByteArrayView part) const;
+    /// Where the lines of a section begin.
+    std::optional<qsizetype> findSection(QStringView section) const;
     QByteArray encoded(const QString &text) const;
     QString lineEnd() const;
 
     QByteArray m_bytes;
     /// First byte behind a byte order mark.
     qsizetype m_start;
-    mutable std::optional<bool> m_isUtf8;
 };

@@ -3,7 +3,10 @@
 #include "platform/text/RegionalSettings.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <cstdlib>
 
 namespace {
 /// What a number means to its reader; the binary digits behind these must not decide a rounding.
@@ -18,10 +21,15 @@ void refuseInfinite(double value)
 /// Digits of a number without its sign, rounded half away from zero; the last `places` of them stand behind the point.
 QString roundedDigits(double value, int places)
 {
-    const QString text = QString::number(std::abs(value), 'e', SignificantDigits - 1);
-    const qsizetype e = text.indexOf(u'e');
-    qint64 digits = text.left(e).remove(u'.').toLongLong();
-    const int shift = text.mid(e + 1).toInt() - (SignificantDigits - 1) + places;
+    // One digit, a point, the other digits, and an exponent such as "e+03".
+    constexpr std::size_t Longest = 32;
+    std::array<char, Longest> text{};
+    std::to_chars(text.begin(), text.end(), std::abs(value), std::chars_format::scientific, SignificantDigits - 1);
+    qint64 digits = text.front() - '0';
+    const char *next = &text.at(2);
+    for (; *next != 'e'; ++next)
+        digits = digits * 10 + (*next - '0');
+    const int shift = std::atoi(next + 1) - (SignificantDigits - 1) + places;
     if (shift < 0) {
         qint64 unit = 1;
         for (int i = 0; i < std::min(-shift, SignificantDigits + 1); ++i)

@@ -9,6 +9,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
+#include <cstdlib>
+#include <limits>
 
 namespace {
 /// A place in a text of either encoding. Queries read numbers row by row, so nothing is copied or converted.
@@ -89,7 +92,7 @@ private:
     std::basic_string_view<Char> m_text;
 };
 
-/// The digits of a number on their way to the nearest double.
+/// The digits of a number on their way to a double.
 class DigitCollector
 {
 public:
@@ -97,10 +100,8 @@ public:
     {
         m_empty = false;
         m_exponent -= m_inFraction ? 1 : 0;
-        if (m_size == 0 && digit == '0')
-            return;
-        if (m_size < Kept)
-            m_digits[m_size++] = digit;
+        if (m_digits < Full)
+            m_digits = m_digits * 10 + static_cast<std::uint64_t>(digit - '0');
         else
             ++m_exponent;
     }
@@ -110,28 +111,36 @@ public:
     bool isEmpty() const { return m_empty; }
 
     /// Empty for a number beyond every double.
-    std::optional<double> value(int exponent)
+    std::optional<double> value(int exponent) const
     {
-        if (m_size == 0)
-            return 0.0;
         exponent += m_exponent;
-        char *const end = m_digits.data() + m_digits.size();
-        m_digits[m_size] = 'e';
-        const char *const last = std::to_chars(m_digits.data() + m_size + 1, end, exponent).ptr;
+        // A double holds both sides exactly here, so that one division or product rounds as the standard wants it.
+        if (m_digits <= ExactDigits && std::abs(exponent) < static_cast<int>(ExactPowers.size())) {
+            const double digits = static_cast<double>(m_digits);
+            const double power = ExactPowers.at(static_cast<std::size_t>(std::abs(exponent)));
+            return exponent < 0 ? digits / power : digits * power;
+        }
+        constexpr std::size_t Longest = 40;
+        std::array<char, Longest> text{};
+        char *const end = text.data() + text.size();
+        char *last = std::to_chars(text.data(), end, m_digits).ptr;
+        *last++ = 'e';
+        last = std::to_chars(last, end, exponent).ptr;
         double number = 0.0;
-        const std::errc error = std::from_chars(m_digits.data(), last, number).ec;
+        const std::errc error = std::from_chars(text.data(), last, number).ec;
         if (error == std::errc::result_out_of_range && exponent > 0)
             return {};
         return number;
     }
 
 private:
-    /// Digits behind these cannot change a double any more, but for ties that no amount ever meets.
-    static constexpr std::size_t Kept = 40;
-    static constexpr std::size_t ExponentSpace = 16;
+    /// Eighteen digits and more than a double keeps; those behind them only count as places.
+    static constexpr std::uint64_t Full = 100'000'000'000'000'000;
+    static constexpr std::uint64_t ExactDigits = std::uint64_t(1) << std::numeric_limits<double>::digits;
+    static constexpr std::array ExactPowers{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                            1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-    std::array<char, Kept + ExponentSpace> m_digits;
-    std::size_t m_size = 0;
+    std::uint64_t m_digits = 0;
     int m_exponent = 0;
     bool m_inFraction = false;
     bool m_empty = true;
@@ -141,6 +150,8 @@ private:
 class Marks
 {
 public:
+    explicit Marks(QStringView currencySymbol) : m_currencySymbol(currencySymbol) {}
+
     template <typename Char>
     void takeBefore(Cursor<Char> &cursor)
     {
@@ -164,7 +175,7 @@ private:
     template <typename Char>
     bool takeEither(Cursor<Char> &cursor)
     {
-        if (!m_currency && cursor.take(RegionalSettings::current().currencySymbol))
+        if (!m_currency && cursor.take(m_currencySymbol))
             return m_currency = true;
         if (m_signed)
             return false;
@@ -189,6 +200,7 @@ private:
         return true;
     }
 
+    QStringView m_currencySymbol;
     bool m_currency = false;
     bool m_signed = false;
     bool m_negative = false;
@@ -217,7 +229,7 @@ double leadingNumber(std::basic_string_view<Char> text)
     const bool negative = cursor.take(u'-');
     if (!negative)
         cursor.take(u'+');
-    DigitCollector digits = takeDigits(cursor, u'.', QChar());
+    const DigitCollector digits = takeDigits(cursor, u'.', QChar());
     if (digits.isEmpty())
         return 0.0;
     const double number = digits.value(cursor.takeExponent()).value_or(0.0);
@@ -229,9 +241,9 @@ std::optional<double> regionalNumber(std::basic_string_view<Char> text)
 {
     const RegionalSettings &region = RegionalSettings::current();
     Cursor<Char> cursor(text);
-    Marks marks;
+    Marks marks(region.currencySymbol);
     marks.takeBefore(cursor);
-    DigitCollector digits = takeDigits(cursor, region.decimalSeparator, region.thousandsSeparator);
+    const DigitCollector digits = takeDigits(cursor, region.decimalSeparator, region.thousandsSeparator);
     if (digits.isEmpty())
         return {};
     const std::optional<double> number = digits.value(cursor.takeExponent());
