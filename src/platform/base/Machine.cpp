@@ -33,7 +33,7 @@ void playWaveInChild(const QString &path)
 QString parallelPortDevice(int port)
 {
     for (const QString &pattern : {QString("/dev/lp%1"), QString("/dev/usb/lp%1")}) {
-        const QString device = pattern.arg(port - 1);
+        QString device = pattern.arg(port - 1);
         if (QFile::exists(device))
             return device;
     }

@@ -135,7 +135,7 @@ std::optional<qsizetype> IniText::findSection(QStringView section) const
 
 QByteArray IniText::encoded(const QString &text) const
 {
-    const QByteArray narrow = toWindows1252(text);
+    QByteArray narrow = toWindows1252(text);
     if (m_start == 0 && !QByteArrayView(m_bytes).isValidUtf8())
         return narrow;
     // A file without any accent yet has no encoding to keep. It is shared with programs of Windows, so their code page

@@ -20,4 +20,5 @@ public:
 
 private:
     QFile m_file;
+    int m_waitsLeft = 0;
 };

@@ -15,7 +15,7 @@ constexpr int SignificantDigits = 15;
 void refuseInfinite(double value)
 {
     if (!std::isfinite(value))
-        throw RunTimeError(ErrorNumber::InvalidProcedureCall, "Overflow");
+        throw RunTimeError(ErrorNumber::Overflow, "Overflow");
 }
 
 /// Digits of a number without its sign, rounded half away from zero; the last `places` of them stand behind the point.
