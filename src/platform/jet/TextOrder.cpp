@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <vector>
 
 namespace {
 
@@ -15,64 +16,84 @@ constexpr char32_t firstNonAscii = 0x80;
 constexpr char32_t firstRare = 0x250;
 constexpr char32_t replacement = 0xFFFD;
 
-struct Weight
+/// The leading byte of a character in a key tells its group; 0 stands between the characters and the accents.
+constexpr unsigned char firstSign = 0x02;
+constexpr unsigned char otherSigns = 0x44;
+constexpr unsigned char firstDigit = 0x45;
+constexpr unsigned char otherDigits = 0x4F;
+constexpr unsigned char firstLetter = 0x50;
+constexpr unsigned char otherLetters = 0x6A;
+
+constexpr auto asciiKeys = [] {
+    std::array<unsigned char, firstNonAscii> keys{};
+    unsigned char sign = firstSign;
+    for (unsigned character = 0; character < firstNonAscii; ++character) {
+        if (character >= '0' && character <= '9')
+            keys[character] = static_cast<unsigned char>(firstDigit + character - '0');
+        else if (character >= 'A' && character <= 'Z')
+            keys[character] = static_cast<unsigned char>(firstLetter + character - 'A');
+        else if (character >= 'a' && character <= 'z')
+            keys[character] = static_cast<unsigned char>(firstLetter + character - 'a');
+        else
+            keys[character] = sign++;
+    }
+    return keys;
+}();
+
+bool isAscii(char byte)
 {
-    /// Group of the character above its place in the group; 0 for a mark that joins the letter before it.
-    char32_t primary = 0;
+    return static_cast<unsigned char>(byte) < firstNonAscii;
+}
+
+char asciiKey(char byte)
+{
+    return static_cast<char>(asciiKeys[static_cast<unsigned char>(byte)]);
+}
+
+/// A character taken apart; a mark has no base.
+struct Parts
+{
+    char32_t base = 0;
     char32_t accent = 0;
 };
 
-constexpr char32_t digitGroup = 1U << 24;
-constexpr char32_t letterGroup = 2U << 24;
-
-constexpr char32_t asciiWeight(char32_t character)
-{
-    if (character >= U'0' && character <= U'9')
-        return digitGroup + character;
-    if (character >= U'A' && character <= U'Z')
-        return letterGroup + (character - U'A' + U'a');
-    if (character >= U'a' && character <= U'z')
-        return letterGroup + character;
-    return character + 1;
-}
-
-constexpr auto asciiWeights = [] {
-    std::array<char32_t, firstNonAscii> weights{};
-    for (char32_t character = 0; character < firstNonAscii; ++character)
-        weights[character] = asciiWeight(character);
-    return weights;
-}();
-
-Weight lookUpWeight(char32_t character)
+Parts lookUpParts(char32_t character)
 {
     if (QChar::isMark(character))
         return {0, character};
     if (!QChar::isLetterOrNumber(character))
-        return {character + 1, 0};
+        return {character, 0};
     const QList<uint> parts = QString::fromUcs4(&character, 1).normalized(QString::NormalizationForm_KD).toUcs4();
-    const char32_t base = QChar::toCaseFolded(parts.first());
-    const char32_t accent = parts.size() > 1 ? parts[1] : 0;
-    if (base < firstNonAscii)
-        return {asciiWeight(base), accent};
-    return {(QChar::isLetter(base) ? letterGroup : digitGroup) + base, accent};
+    return {QChar::toCaseFolded(parts.first()), parts.size() > 1 ? parts[1] : 0};
 }
 
-const std::array<Weight, firstRare> &latinWeights()
+Parts partsOf(char32_t character)
 {
-    static const auto weights = [] {
-        std::array<Weight, firstRare> table;
-        for (char32_t character = 0; character < firstNonAscii; ++character)
-            table[character] = {asciiWeights[character], 0};
-        for (char32_t character = firstNonAscii; character < firstRare; ++character)
-            table[character] = lookUpWeight(character);
+    static const auto latin = [] {
+        std::array<Parts, firstRare> table;
+        for (char32_t entry = 0; entry < firstRare; ++entry)
+            table[entry] = lookUpParts(entry);
         return table;
     }();
-    return weights;
+    return character < firstRare ? latin[character] : lookUpParts(character);
 }
 
-Weight weightOf(char32_t character)
+void appendCode(std::string &key, char32_t code)
 {
-    return character < firstRare ? latinWeights()[character] : lookUpWeight(character);
+    key += static_cast<char>(code >> 16);
+    key += static_cast<char>(code >> 8 & 0xFF);
+    key += static_cast<char>(code & 0xFF);
+}
+
+void appendBase(std::string &key, char32_t base)
+{
+    if (base < firstNonAscii) {
+        key += asciiKey(static_cast<char>(base));
+        return;
+    }
+    const unsigned char group = QChar::isLetter(base) ? otherLetters : QChar::isNumber(base) ? otherDigits : otherSigns;
+    key += static_cast<char>(group);
+    appendCode(key, base);
 }
 
 std::size_t lengthOf(unsigned char lead)
@@ -102,84 +123,44 @@ char32_t takeCharacter(std::string_view &text)
     return character;
 }
 
-/// The next character that is no joined mark; the marks before it are added to `accents`. 0 at the end.
-Weight takeWeight(std::string_view &text)
-{
-    Weight result;
-    while (!text.empty()) {
-        std::string_view rest = text;
-        const Weight weight = weightOf(takeCharacter(rest));
-        if (weight.primary != 0 && result.primary != 0)
-            break;
-        result.primary = std::max(result.primary, weight.primary);
-        result.accent = std::max(result.accent, weight.accent);
-        text = rest;
-    }
-    return result;
-}
-
-int order(char32_t left, char32_t right)
-{
-    return left < right ? -1 : static_cast<int>(left > right);
-}
-
-int compareBeyondAscii(std::string_view left, std::string_view right)
-{
-    int accents = 0;
-    while (!left.empty() && !right.empty()) {
-        const Weight leftWeight = takeWeight(left);
-        const Weight rightWeight = takeWeight(right);
-        if (leftWeight.primary != rightWeight.primary)
-            return order(leftWeight.primary, rightWeight.primary);
-        if (accents == 0)
-            accents = order(leftWeight.accent, rightWeight.accent);
-    }
-    if (left.empty() != right.empty())
-        return left.empty() ? -1 : 1;
-    return accents;
-}
-
-bool isAscii(char byte)
-{
-    return static_cast<unsigned char>(byte) < firstNonAscii;
-}
-
-/// Where the first difference lies that is not one of case alone, or the first character beyond ASCII.
-std::size_t equalAscii(std::string_view left, std::string_view right)
-{
-    const std::size_t shorter = std::min(left.size(), right.size());
-    std::size_t i = 0;
-    while (i < shorter && isAscii(left[i]) && isAscii(right[i]) &&
-           asciiWeights[static_cast<unsigned char>(left[i])] == asciiWeights[static_cast<unsigned char>(right[i])])
-        ++i;
-    return i;
-}
-
 } // namespace
 
-int compareByLanguage(std::string_view left, std::string_view right)
+std::string languageKey(std::string_view utf8)
 {
-    std::size_t same = equalAscii(left, right);
-    if (same < left.size() && same < right.size() && isAscii(left[same]) && isAscii(right[same]))
-        return order(asciiWeights[static_cast<unsigned char>(left[same])],
-                     asciiWeights[static_cast<unsigned char>(right[same])]);
-    // A mark may follow the last common letter and belongs to it.
-    same -= std::min<std::size_t>(same, 1);
-    return compareBeyondAscii(left.substr(same), right.substr(same));
+    const auto beyond = std::find_if_not(utf8.begin(), utf8.end(), isAscii);
+    std::string key(utf8.begin(), beyond);
+    std::transform(key.begin(), key.end(), key.begin(), asciiKey);
+    if (beyond == utf8.end())
+        return key;
+
+    std::vector<char32_t> accents(key.size());
+    utf8.remove_prefix(key.size());
+    while (!utf8.empty()) {
+        const Parts parts = partsOf(takeCharacter(utf8));
+        if (parts.base != 0) {
+            appendBase(key, parts.base);
+            accents.push_back(parts.accent);
+        } else if (!accents.empty()) {
+            accents.back() = std::max(accents.back(), parts.accent);
+        }
+    }
+    while (!accents.empty() && accents.back() == 0)
+        accents.pop_back();
+    if (accents.empty())
+        return key;
+    key += '\0';
+    for (const char32_t accent : accents)
+        appendCode(key, accent);
+    return key;
 }
 
 int compareAnyCase(std::string_view left, std::string_view right)
 {
-    const std::size_t same = equalAscii(left, right);
-    left.remove_prefix(same);
-    right.remove_prefix(same);
     while (!left.empty() && !right.empty()) {
-        const int difference =
-            order(QChar::toCaseFolded(takeCharacter(left)), QChar::toCaseFolded(takeCharacter(right)));
-        if (difference != 0)
-            return difference;
+        const char32_t leftFolded = QChar::toCaseFolded(takeCharacter(left));
+        const char32_t rightFolded = QChar::toCaseFolded(takeCharacter(right));
+        if (leftFolded != rightFolded)
+            return leftFolded < rightFolded ? -1 : 1;
     }
-    if (left.empty() != right.empty())
-        return left.empty() ? -1 : 1;
-    return 0;
+    return static_cast<int>(!left.empty()) - static_cast<int>(!right.empty());
 }

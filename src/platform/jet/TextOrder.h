@@ -1,13 +1,13 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
-/// How texts are put in order, the same on every computer. Below, at or above 0 as the first stands before, beside or
-/// behind the second.
+/// How texts are put in order and compared, the same on every computer.
 
-/// Blanks and punctuation before digits before letters; no case; an accent counts only between texts that are equal
-/// without it.
-int compareByLanguage(std::string_view left, std::string_view right);
+/// Key whose bytes stand in the order of the language: blanks and punctuation before digits before letters, no case,
+/// and an accent counts only between texts that are equal without it.
+std::string languageKey(std::string_view utf8);
 
-/// 0 for texts that differ in case alone; accents count.
+/// 0 for texts that differ in case alone; accents count. Otherwise below or above 0.
 int compareAnyCase(std::string_view left, std::string_view right);

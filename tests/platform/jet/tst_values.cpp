@@ -178,7 +178,7 @@ void tst_values::ordersByLanguage()
          rs->MoveNext())
         found.append(rs->Fields(0).text());
     QCOMPARE(found, inOrder);
-    QCOMPARE(file.answer("Select Max(Nome) From Vendas Where Nome<'B'"), "água");
+    QCOMPARE(file.answer("Select Count(*) From Vendas Where Nome>='A' And Nome<'B'"), "4");
 }
 
 void tst_values::comparesBeyondAscii_data()
@@ -213,8 +213,7 @@ void tst_values::comparesBeyondAscii()
     const std::string_view a(left.constData(), static_cast<std::size_t>(left.size()));
     const std::string_view b(right.constData(), static_cast<std::size_t>(right.size()));
     const auto sign = [](int value) { return value < 0 ? -1 : int(value > 0); };
-    QTEST(sign(compareByLanguage(a, b)), "byLanguage");
-    QCOMPARE(sign(compareByLanguage(b, a)), -sign(compareByLanguage(a, b)));
+    QTEST(sign(languageKey(a).compare(languageKey(b))), "byLanguage");
     QCOMPARE(compareAnyCase(a, b) == 0, sameInAnyCase);
     QCOMPARE(sign(compareAnyCase(b, a)), -sign(compareAnyCase(a, b)));
 }

@@ -150,19 +150,24 @@ void SqlCipherConnection::run(const std::string &sql)
         raise(code);
 }
 
+SqlCipherConnection::Prepared SqlCipherConnection::compile(const std::string &sql)
+{
+    sqlite3_stmt *statement = nullptr;
+    const int code = sqlite3_prepare_v2(handle(), sql.c_str(), static_cast<int>(sql.size()), &statement, nullptr);
+    if (code != SQLITE_OK)
+        raise(code);
+    return Prepared(statement);
+}
+
 sqlite3_stmt *SqlCipherConnection::prepare(const std::string &sql)
 {
     const auto known = m_prepared.find(sql);
     if (known != m_prepared.end())
         return known->second.get();
-    sqlite3_stmt *statement = nullptr;
-    const int code = sqlite3_prepare_v2(handle(), sql.c_str(), static_cast<int>(sql.size()), &statement, nullptr);
-    if (code != SQLITE_OK)
-        raise(code);
+    Prepared fresh = compile(sql);
     if (m_prepared.size() >= mostPrepared)
         m_prepared.clear();
-    m_prepared.emplace(sql, statement);
-    return statement;
+    return m_prepared.emplace(sql, std::move(fresh)).first->second.get();
 }
 
 bool SqlCipherConnection::step(sqlite3_stmt *statement)

@@ -10,7 +10,7 @@
 #include <string>
 #include <unordered_map>
 
-/// A prepared statement while it runs; afterwards it waits in its connection for its next run, holding no lock.
+/// A kept statement while it runs; afterwards it waits in its connection for its next run, holding no lock.
 class SqlCipherRun
 {
 public:
@@ -38,6 +38,12 @@ public:
         Create
     };
 
+    struct Finalize
+    {
+        void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
+    };
+    using Prepared = std::unique_ptr<sqlite3_stmt, Finalize>;
+
     explicit SqlCipherConnection(const FileAccess &access, Mode mode = Mode::Open);
 
     sqlite3 *handle() const { return m_handle.get(); }
@@ -49,7 +55,9 @@ public:
 
     /// Runs a statement of the engine's own.
     void run(const std::string &sql);
-    /// A statement ready to be bound and stepped.
+    /// A statement ready to be stepped, for one use.
+    Prepared compile(const std::string &sql);
+    /// A statement ready to be bound and stepped; it is kept for its next use.
     sqlite3_stmt *prepare(const std::string &sql);
     /// True at a row, false at the end.
     bool step(sqlite3_stmt *statement);
@@ -60,12 +68,7 @@ private:
     {
         void operator()(sqlite3 *handle) const { sqlite3_close_v2(handle); }
     };
-    struct Finalize
-    {
-        void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
-    };
     using Handle = std::unique_ptr<sqlite3, CloseHandle>;
-    using Prepared = std::unique_ptr<sqlite3_stmt, Finalize>;
 
     void openHandle(Mode mode);
     void setUp(Mode mode);

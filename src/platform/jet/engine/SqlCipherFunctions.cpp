@@ -56,11 +56,18 @@ void cstr(sqlite3_context *context, int, sqlite3_value **arguments)
     sqlite3_result_text(context, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
 }
 
-template <int (*compare)(std::string_view, std::string_view)>
-int collate(void *, int leftSize, const void *left, int rightSize, const void *right)
+void textKey(sqlite3_context *context, int, sqlite3_value **arguments)
 {
-    return compare({static_cast<const char *>(left), static_cast<std::size_t>(leftSize)},
-                   {static_cast<const char *>(right), static_cast<std::size_t>(rightSize)});
+    if (sqlite3_value_type(*arguments) == SQLITE_NULL)
+        return;
+    const std::string key = languageKey(textOf(*arguments));
+    sqlite3_result_text(context, key.data(), static_cast<int>(key.size()), SQLITE_TRANSIENT);
+}
+
+int collateAnyCase(void *, int leftSize, const void *left, int rightSize, const void *right)
+{
+    return compareAnyCase({static_cast<const char *>(left), static_cast<std::size_t>(leftSize)},
+                          {static_cast<const char *>(right), static_cast<std::size_t>(rightSize)});
 }
 
 using ScalarFunction = void (*)(sqlite3_context *, int, sqlite3_value **);
@@ -78,8 +85,6 @@ void registerSqlCipherFunctions(sqlite3 *handle)
     addFunction(handle, SqlCipherNames::Cdbl, cdbl);
     addFunction(handle, SqlCipherNames::Val, val);
     addFunction(handle, SqlCipherNames::Cstr, cstr);
-    sqlite3_create_collation_v2(handle, SqlCipherNames::languageOrder, SQLITE_UTF8, nullptr, collate<compareByLanguage>,
-                                nullptr);
-    sqlite3_create_collation_v2(handle, SqlCipherNames::anyCase, SQLITE_UTF8, nullptr, collate<compareAnyCase>,
-                                nullptr);
+    addFunction(handle, SqlCipherNames::textKey, textKey);
+    sqlite3_create_collation_v2(handle, SqlCipherNames::anyCase, SQLITE_UTF8, nullptr, collateAnyCase, nullptr);
 }

@@ -4,8 +4,8 @@
 
 /// Names under which the engine's SQL reaches what the windows' SQL has and this engine lacks.
 namespace SqlCipherNames {
-constexpr const char *languageOrder = "language_order";
 constexpr const char *anyCase = "any_case";
+constexpr const char *textKey = "text_key";
 constexpr const char *Cdbl = "jet_cdbl";
 constexpr const char *Val = "jet_val";
 constexpr const char *Cstr = "jet_cstr";

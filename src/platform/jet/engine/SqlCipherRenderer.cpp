@@ -183,10 +183,7 @@ void Renderer::call(const Expression &expression)
     if (expression.operands.empty())
         return;
     add("(");
-    if (expression.function == Function::Max || expression.function == Function::Min)
-        orderedValue(expression.operands[0]);
-    else
-        value(expression.operands[0]);
+    value(expression.operands[0]);
     add(")");
 }
 
@@ -201,13 +198,17 @@ void Renderer::arithmetic(const Expression &expression)
     add(")");
 }
 
+// A key is made once for a row, where a collation would be asked at every comparison.
 void Renderer::orderedValue(const Expression &expression)
 {
-    value(expression);
-    if (expression.isText()) {
-        add(" COLLATE ");
-        add(SqlCipherNames::languageOrder);
+    if (!expression.isText()) {
+        value(expression);
+        return;
     }
+    add(SqlCipherNames::textKey);
+    add("(");
+    value(expression);
+    add(")");
 }
 
 void Renderer::comparedValue(const Expression &expression, const Expression &other)
@@ -282,7 +283,7 @@ void Renderer::comparison(const Expression &expression)
     } else {
         orderedValue(left);
         add(textOf(expression.op));
-        value(right);
+        orderedValue(right);
     }
     add(")");
 }

@@ -2,6 +2,8 @@
 
 #include "platform/jet/engine/SqlCipherRenderer.h"
 
+#include <QScopeGuard>
+
 namespace {
 
 /// A boolean field is never Null: one that an insert leaves out is false.
@@ -43,9 +45,9 @@ QString keyIndexName(const QString &table)
 template <typename Row>
 void forEachRow(SqlCipherConnection &connection, const std::string &sql, Row row)
 {
-    const SqlCipherRun run(connection.prepare(sql));
-    while (connection.step(run))
-        row(run);
+    const SqlCipherConnection::Prepared statement = connection.compile(sql);
+    while (connection.step(statement.get()))
+        row(statement.get());
 }
 
 void readFields(SqlCipherConnection &connection, TableDef &table)
@@ -102,6 +104,10 @@ void createRenumbering(SqlCipherConnection &connection, const TableDef &table)
 
 Catalogue readSqlCipherCatalogue(SqlCipherConnection &connection)
 {
+    // One lock for all of it: over a network folder each costs several round trips.
+    connection.run("SAVEPOINT catalogue");
+    const auto release =
+        qScopeGuard([&] { sqlite3_exec(connection.handle(), "RELEASE catalogue", nullptr, nullptr, nullptr); });
     QList<TableDef> tables;
     forEachRow(connection,
                "SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite~_%' ESCAPE '~'",

@@ -155,9 +155,9 @@ void SqlCipherSession::rollback()
 int SqlCipherSession::schemaVersion()
 {
     m_connection.requireSameFile();
-    const SqlCipherRun run(m_connection.prepare("PRAGMA user_version"));
-    m_connection.step(run);
-    return sqlite3_column_int(run, 0);
+    const SqlCipherConnection::Prepared statement = m_connection.compile("PRAGMA user_version");
+    m_connection.step(statement.get());
+    return sqlite3_column_int(statement.get(), 0);
 }
 
 void SqlCipherSession::setSchemaVersion(int version)
@@ -176,9 +176,9 @@ QStringList SqlCipherSession::faults()
     m_connection.requireSameFile();
     QStringList found;
     try {
-        const SqlCipherRun run(m_connection.prepare("PRAGMA integrity_check"));
-        while (m_connection.step(run))
-            found += textColumn(run, 0).split('\n');
+        const SqlCipherConnection::Prepared check = m_connection.compile("PRAGMA integrity_check");
+        while (m_connection.step(check.get()))
+            found += textColumn(check.get(), 0).split('\n');
     } catch (const RunTimeError &error) {
         // A page that no longer fits its check sum ends the reading itself.
         found.append(error.Description());
