@@ -1,6 +1,7 @@
 #include "cafe/Cafe.h"
 #include "cafe/Resources.h"
 #include "cafe/TillSound.h"
+#include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
 
 #include <QSet>
@@ -41,6 +42,8 @@ private slots:
     void languageIsComplete();
     void textsFitTheReceipt_data() { languageIsComplete_data(); }
     void textsFitTheReceipt();
+    void keysRefuseOrRenumber();
+    void fieldsReadAsDeclared();
     void thousandsOfRowsCanBeToldApart();
     void demoIsTheSameEachTime();
     void discountRulesReachEveryKind();
@@ -124,6 +127,41 @@ void tst_cafe_content::textsFitTheReceipt()
     // Amounts stand below each other.
     const QStringList amounts{"DispositivoSaida16", "DispositivoSaida17", "DispositivoSaida18", "DispositivoSaida19"};
     QCOMPARE(width("frmvenda", amounts), 4 * width("frmvenda", {amounts[0]}));
+}
+
+void tst_cafe_content::keysRefuseOrRenumber()
+{
+    createCafe(m_place.filePath("keys"), {});
+    const DatabaseHandle db = openDataFile(m_place.filePath("keys"));
+    // Two terminals that read the same highest number: a sale is stored all the same, a customer is not.
+    for (int i = 0; i < 2; ++i) {
+        db->Execute("Insert into Venda_Produtos (Codigo,Nome) values (7,'A')");
+        db->Execute("Insert into Venda_Codigos (Codigo,Nome) values (7,'A')");
+        db->Execute("Insert into Links (Codigo,Nome) values (7,'A')");
+    }
+    for (const char *table : {"Venda_Produtos", "Venda_Codigos", "Links"})
+        QCOMPARE(column(*db, QString("Select Codigo From %1 Order By Codigo").arg(table)), QStringList({"7", "8"}));
+
+    for (const char *row :
+         {"Clientes (Codigo) values (7)", "Produtos (Codigo) values (7)", "Categoria (Codigo) values (7)",
+          "Descontos (Codigo) values (7)", "Registro_Caixa (ID_Caixa) values (7)",
+          "Codigo_Acesso (Codigo_Acesso) values ('000000000007')"}) {
+        db->Execute(QString("Insert into ") + row);
+        QVERIFY_EXCEPTION_THROWN(db->Execute(QString("Insert into ") + row), RunTimeError);
+    }
+}
+
+void tst_cafe_content::fieldsReadAsDeclared()
+{
+    const DatabaseHandle db = openDataFile(cafe());
+    db->Execute("Insert into Produtos (Codigo,Descrição,Categoria,Servico) values (9,'BALA','diversos',1)");
+    db->Execute("Insert into Descontos (Codigo,Relativo,Absoluto) values (9,'10','0')");
+    db->Execute("Insert into Codigo_Acesso (Codigo_Acesso) values ('9')");
+    QCOMPARE(column(*db, "Select Descrição From Produtos Where Categoria='DIVERSOS' And Servico=True And Codigo=9"),
+             QStringList("BALA"));
+    QCOMPARE(column(*db, "Select Codigo From Produtos Where Descrição='bala'"), QStringList());
+    QCOMPARE(column(*db, "Select Relativo From Descontos Where Cdbl(Relativo)>Cdbl(Absoluto)"), QStringList("10"));
+    QCOMPARE(column(*db, "Select Vendido From Codigo_Acesso Where Codigo_Acesso='9'"), QStringList("False"));
 }
 
 void tst_cafe_content::thousandsOfRowsCanBeToldApart()
