@@ -44,7 +44,10 @@ int keyCode(const QKeyEvent &event)
     for (const auto &each : codes)
         if (each.key == event.key())
             return each.code;
-    return event.key() >= Qt::Key_Space && event.key() <= Qt::Key_Z ? event.key() : 0;
+    // Digits and letters alone are their own codes: "(" would be taken for an arrow, and "." for Delete.
+    const bool digit = event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+    const bool letter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
+    return digit || letter || event.key() == Qt::Key_Space ? event.key() : 0;
 }
 
 void filterKey(QKeyEvent *event, const std::function<void(int &)> &tell,
