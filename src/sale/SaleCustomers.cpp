@@ -187,7 +187,9 @@ void SaleCustomers::optavulsa_Click()
     m_state.Avulsa_Venda = yesFlag;
     setGridEnabled(false);
     ui.optnão_pago->setEnabled(false);
-    ui.optpago->setChecked(true);
+    // A walk-in buyer cannot owe: the debt of an earlier choice goes, as if the attendant had chosen "paid".
+    if (!ui.optpago->isChecked())
+        ui.optpago->click();
 }
 
 void SaleCustomers::optcliente_Click()
