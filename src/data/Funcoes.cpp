@@ -4,6 +4,7 @@
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
+#include "data/Placeholders.h"
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/media/Sound.h"
@@ -114,7 +115,7 @@ QString Categoria_Do_Produto(const QString &description)
 {
     // Each call adds one more separator to the path. It stays: every path of the program is joined so.
     CaminhoBD = Pasta_Do_Arquivo(CaminhoBD) + "\\Morvelane.mdb";
-    QString category = "-----";
+    QString category = Placeholder::NoCategory;
     readFirstRow("Select Categoria From Produtos Where Descrição='" + description + "'", [&](const Recordset &rs) {
         const FieldValue value = rs.Fields("Categoria");
         if (!value.isNull())

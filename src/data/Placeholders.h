@@ -7,5 +7,6 @@ namespace Placeholder {
 inline const QString NoName = "------";
 inline const QString NoProductCode = "---";
 inline const QString NoPhoto = "-----";
+inline const QString NoCategory = "-----";
 inline const QString NoMotive = "-----------";
 } // namespace Placeholder

@@ -9,33 +9,13 @@
 #include <QApplication>
 #include <QTest>
 
-namespace {
-class FirstWindow : public Form
+class WaitedFor : public Form
 {
     Q_OBJECT
 
 public:
-    FirstWindow() { setObjectName("frmfirst"); }
+    WaitedFor() { setObjectName("frmwaited"); }
 };
-
-class SecondWindow : public Form
-{
-    Q_OBJECT
-
-public:
-    SecondWindow() { setObjectName("frmsecond"); }
-
-private:
-    void Form_Unload() override
-    {
-        if (Form_Aberto("frmfirst"))
-            Forms::use<FirstWindow>().Unload();
-    }
-};
-
-const QLocale brazil(QLocale::Portuguese, QLocale::Brazil);
-const QLocale unitedStates(QLocale::English, QLocale::UnitedStates);
-} // namespace
 
 class tst_funcoes : public QObject
 {
@@ -45,7 +25,8 @@ private slots:
     void init()
     {
         machine.emplace();
-        enterCafe(brazil);
+        cafe.emplace();
+        cafe->start();
     }
     void cleanup()
     {
@@ -67,38 +48,31 @@ private slots:
         QCOMPARE(typed("1-2-3", true), QString("1-23"));
     }
 
-    void sharesAreRoundedToTwoPlaces()
+    void numbersFollowTheRegion()
     {
-        for (const QLocale &region : {brazil, unitedStates}) {
-            enterCafe(region);
+        for (const auto &[locale, symbol] : {std::pair("pt_BR", "R$"), std::pair("en_US", "$")}) {
+            cafe.reset();
+            cafe.emplace(QLocale(locale));
+            QCOMPARE(Simbolo_Moeda_Regional(), QString(symbol));
             QCOMPARE(Valor_Proporcional(10, 30, 10), 3.33);
             QCOMPARE(Valor_Proporcional(1.005, 1, 1), 1.01);
             QCOMPARE(Valor_Proporcional(5, 0, 10), 0.0);
         }
     }
 
-    void currencyAndApostrophe()
-    {
-        QCOMPARE(Simbolo_Moeda_Regional(), QString("R$"));
-        enterCafe(unitedStates);
-        QCOMPARE(Simbolo_Moeda_Regional(), QString("$"));
-        QVERIFY(Tem_Apostrofo("d'Água"));
-        QVERIFY(!Tem_Apostrofo("d´Água"));
-    }
-
-    void categoriesGroupsAndLinks()
+    void rowsAnswer()
     {
         cafe->execute("Insert into Produtos (Codigo,Descrição,Categoria) values (9001,'TESTE','BEBIDAS')");
         cafe->execute("Insert into Produtos (Codigo,Descrição) values (9002,'SEM CATEGORIA')");
+        cafe->execute("Insert into Clientes (Codigo,Nome,Grupo) values (9001,'ANA TESTE','VIP')");
+        cafe->execute("Insert into Links (Codigo,Nome,Codigo_Acesso) values (9001,'ANA TESTE','X1')");
         CaminhoBD = cafe->folder() + "/anything.else";
         QCOMPARE(Categoria_Do_Produto("TESTE"), QString("BEBIDAS"));
+        // The path is put right first, and then gains a separator at each call.
         QCOMPARE(CaminhoBD, cafe->folder() + "/\\Morvelane.mdb");
         QCOMPARE(Categoria_Do_Produto("teste"), QString("-----"));
         QCOMPARE(CaminhoBD, cafe->folder() + "/\\\\Morvelane.mdb");
         QCOMPARE(Categoria_Do_Produto("SEM CATEGORIA"), QString("-----"));
-
-        cafe->execute("Insert into Clientes (Codigo,Nome,Grupo) values (9001,'ANA TESTE','VIP')");
-        cafe->execute("Insert into Links (Codigo,Nome,Codigo_Acesso) values (9001,'ANA TESTE','X1')");
         QCOMPARE(Grupo_Do_Cliente("ANA TESTE"), QString("VIP"));
         QVERIFY(Tem_Link("ANA TESTE"));
         QVERIFY(!Tem_Link("NOBODY"));
@@ -106,26 +80,20 @@ private slots:
 
     void theNewestCashPeriodDecides()
     {
+        const auto open = [](bool expected, double number) { return Caixa_Aberto() == expected && IdCaixa == number; };
         cafe->execute("Delete From Registro_Caixa");
-        QVERIFY(!Caixa_Aberto());
-        QCOMPARE(IdCaixa, 0.0);
+        QVERIFY(open(false, 0));
         cafe->execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (1000000,True)");
-        QVERIFY(Caixa_Aberto());
-        QCOMPARE(IdCaixa, 1000000.0);
+        QVERIFY(open(true, 1000000));
         cafe->execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (1000001,False)");
-        QVERIFY(!Caixa_Aberto());
-        QCOMPARE(IdCaixa, 1000001.0);
+        QVERIFY(open(false, 1000001));
     }
 
     void fixedDiscounts()
     {
-        cafe->execute("Delete From Descontos");
-        addRule("1,True,10,3,'0','1',False");
-        addRule("2,True,0,3,'0','1',False");
-        addRule("3,False,10,0,'0','1',False");
+        setRules({"1,True,10,3,'0','1',False", "2,True,0,3,'0','1',False", "3,False,10,0,'0','1',False"});
         QVERIFY(Tem_Desconto_Fixo(1));
         QVERIFY(!Tem_Desconto_Fixo(3));
-        QVERIFY(!Tem_Desconto_Fixo(4));
         QCOMPARE(Valor_Desconto_Fixo(1, 50), 5.0);
         QCOMPARE(Valor_Desconto_Fixo(1, 0.35), 0.04);
         QCOMPARE(Valor_Desconto_Fixo(2, 50), 3.0);
@@ -134,24 +102,17 @@ private slots:
 
     void rulesRefuseTotals()
     {
-        struct Case
-        {
-            const char *rule;
-            const char *total;
-            bool refused;
-        };
-        for (const Case &test : std::initializer_list<Case>{{"'19,90','1',True", "19,89", true},
-                                                            {"'19,90','1',True", "19,90", false},
-                                                            {"'9,90','1',True", "10,00", false},
-                                                            {"'25','2',True", "25,00", false},
-                                                            {"'25','2',True", "25,01", true},
-                                                            {"'25','9',True", "30,00", true},
-                                                            {"'25','2',False", "1,00", false}}) {
-            cafe->execute("Delete From Descontos");
-            addRule(QString("7,False,10,0,") + test.rule);
-            QCOMPARE(Desconto_Libera_Auto(7), QString(test.rule).endsWith("True"));
-            QCOMPARE(Desconto_Atendido(7, test.total), test.refused);
-        }
+        setRules({"1,False,10,0,'19,90','1',True", "2,False,10,0,'25','2',True", "3,False,10,0,'25','9',True",
+                  "4,False,10,0,'25','2',False"});
+        QVERIFY(Desconto_Atendido(1, "19,89"));
+        QVERIFY(!Desconto_Atendido(1, "19,90"));
+        QVERIFY(!Desconto_Atendido(1, "100,00"));
+        QVERIFY(!Desconto_Atendido(2, "25,00"));
+        QVERIFY(Desconto_Atendido(2, "25,01"));
+        QVERIFY(Desconto_Atendido(3, "30,00"));
+        QVERIFY(!Desconto_Atendido(4, "1,00"));
+        QVERIFY(Desconto_Libera_Auto(1));
+        QVERIFY(!Desconto_Libera_Auto(4));
     }
 
     void withoutADataFileEveryAnswerIsEmpty()
@@ -168,15 +129,16 @@ private slots:
 
     void soundCanBeSilenced()
     {
-        const QString wave = cafe->path("Caixa.wav");
         cafe->writeFile("Caixa.wav", "RIFF");
-        cafe->setIni("Som", "Ativo", {});
-        Tocar_Som(wave);
-        QCOMPARE(machine->sounds.size(), 1);
-        Tocar_Som(cafe->path("None.wav"));
-        cafe->setIni("Som", "Ativo", "0");
-        Tocar_Som(wave);
-        QCOMPARE(machine->sounds.size(), 1);
+        const auto sounds = [this](const QString &name, const QString &active) {
+            cafe->setIni("Som", "Ativo", active);
+            machine->sounds.clear();
+            Tocar_Som(cafe->path(name));
+            return machine->sounds.size();
+        };
+        QCOMPARE(sounds("Caixa.wav", ""), 1);
+        QCOMPARE(sounds("Caixa.wav", "0"), 0);
+        QCOMPARE(sounds("None.wav", "1"), 0);
     }
 
     void thePageComesBack()
@@ -191,40 +153,26 @@ private slots:
 
     void waitingEndsWithTheWindow()
     {
-        Aguardar_Form("frmfirst");
+        Aguardar_Form("frmwaited");
         QCOMPARE(machine->sleeps, QList<int>({50}));
 
-        Forms::use<FirstWindow>();
-        QVERIFY(!Form_Aberto("FRMFIRST"));
+        Forms::use<WaitedFor>();
+        QVERIFY(!Form_Aberto("FRMWAITED"));
         machine->whileAsleep = [this] {
             if (machine->sleeps.size() == 4)
-                Forms::use<FirstWindow>().Unload();
+                Descarregar_Forms();
         };
-        Aguardar_Form("frmfirst");
+        Aguardar_Form("frmwaited");
         QCOMPARE(machine->sleeps.size(), 4);
     }
 
-    void allWindowsUnload()
-    {
-        // The second takes the first along, whose turn would come next.
-        Forms::use<SecondWindow>();
-        Forms::use<FirstWindow>();
-        Descarregar_Forms();
-        QVERIFY(Forms::loaded().isEmpty());
-    }
-
 private:
-    void enterCafe(const QLocale &region)
+    void setRules(const QStringList &rules)
     {
-        cafe.reset();
-        cafe.emplace(region);
-        cafe->start();
-    }
-
-    void addRule(const QString &values)
-    {
-        cafe->execute("Insert into Descontos (Codigo,Fixo,Relativo,Absoluto,Valor,Condicao,LiberarAuto) values (" +
-                      values + ")");
+        cafe->execute("Delete From Descontos");
+        for (const QString &rule : rules)
+            cafe->execute("Insert into Descontos (Codigo,Fixo,Relativo,Absoluto,Valor,Condicao,LiberarAuto) values (" +
+                          rule + ")");
     }
 
     std::optional<FakeMachine> machine;

@@ -1,11 +1,7 @@
-#include "platform/base/Err.h"
-#include "platform/print/Printer.h"
 #include "platform/window/ComboBox.h"
 #include "platform/window/TextBox.h"
 #include "tests/support/Attendant.h"
 #include "tests/support/Controls.h"
-#include "tests/support/FakeMachine.h"
-#include "tests/support/PdfText.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -100,24 +96,6 @@ private slots:
         QCOMPARE(grid.MouseCol(), 1);
         clickCell(grid, 0, 1);
         QCOMPARE(grid.MouseRow(), 0);
-    }
-
-    void printoutsCanBeReadAndRefused()
-    {
-        FakeMachine machine;
-        Printer::current().Print("PRIMEIRA LINHA");
-        Printer::current().NewPage();
-        Printer::current().Print("SEGUNDA");
-        Printer::current().EndDoc();
-        QCOMPARE(machine.printouts().size(), 1);
-        QCOMPARE(machine.openedDocuments, machine.printouts());
-        const QList<QStringList> pages = pdfPages(machine.printouts().first());
-        QCOMPARE(pages.size(), 2);
-        QCOMPARE(pages.at(1).first().trimmed(), QString("SEGUNDA"));
-
-        machine.breakPrinter();
-        Printer::current().Print("NADA");
-        QVERIFY_EXCEPTION_THROWN(Printer::current().EndDoc(), RunTimeError);
     }
 
 private:
