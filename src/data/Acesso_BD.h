@@ -27,7 +27,8 @@ void Abrir_Banco_Principal();
 void executeStatement(const QString &sql);
 
 /// Closes the target first, opens an empty handle, and runs a query to be read forward; empty on failure.
-RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int = 2, int = 512);
+RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int = 2,
+                                int = 512);
 RecordsetHandle Abrir_Recordset_Opcoes(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int type,
                                        int options);
 /// Leaves the handle empty and the error state clear, whatever happened.
