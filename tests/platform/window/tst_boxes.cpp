@@ -78,8 +78,9 @@ private slots:
         QSignalSpy changes(m_box, &TextBox::Change);
         m_box->setText("12");
         m_box->setText("12");
-        QTest::keyClicks(m_box, "3");
         QCOMPARE(changes.size(), 2);
+        QTest::keyClicks(m_box, "3");
+        QCOMPARE(changes.size(), 3);
         m_box->home(false);
         m_box->setCaretToEnd();
         QVERIFY(m_box->hasFocus());
@@ -180,13 +181,13 @@ private slots:
         QCOMPARE(m_combo->currentIndex(), 1);
     }
 
-    void labelTellsWhenItsCaptionDiffers()
+    void labelTellsOfEveryCaption()
     {
         QSignalSpy changes(m_label, &Label::Change);
         QSignalSpy clicks(m_label, &Label::Click);
         m_label->setCaption("R$ 1,00");
         m_label->setCaption("R$ 1,00");
-        QCOMPARE(changes.size(), 1);
+        QCOMPARE(changes.size(), 2);
         m_label->setCaption("<b>&A</b>");
         QCOMPARE(m_label->Caption(), "<b>&A</b>");
         QTest::mouseClick(m_label, Qt::LeftButton);
