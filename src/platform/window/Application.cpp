@@ -2,6 +2,7 @@
 
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
+#include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 
 #include <QLibraryInfo>
@@ -18,7 +19,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setApplicationDisplayName("Morvelane – Módulo Auxiliar");
     // The program ends with its main window, whichever windows are open then.
     setQuitOnLastWindowClosed(false);
-    setStyle("fusion");
+    applyLook(*this);
 
     auto *translator = new QTranslator(this);
     if (translator->load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -1,7 +1,6 @@
 #include "platform/window/FlexGridModel.h"
 
 #include <algorithm>
-#include <iterator>
 
 int FlexGridModel::rowCount(const QModelIndex &parent) const
 {
@@ -37,9 +36,7 @@ QVariant FlexGridModel::headerData(int section, Qt::Orientation orientation, int
     if (role == Qt::DisplayRole)
         return text(0, section);
     if (role == Qt::TextAlignmentRole) {
-        const auto column = std::size_t(section);
-        const Qt::Alignment alignment = column < m_alignments.size() ? m_alignments[column] : Qt::AlignLeft;
-        return QVariant::fromValue(alignment | Qt::AlignVCenter);
+        return QVariant::fromValue(m_alignments.value(section, Qt::AlignLeft) | Qt::AlignVCenter);
     }
     return {};
 }
@@ -48,12 +45,12 @@ void FlexGridModel::setRows(int rows)
 {
     if (rows > m_rows) {
         beginInsertRows({}, m_rows - 1, rows - 2);
-        m_texts.resize(std::size_t(rows) * std::size_t(m_cols));
+        m_texts.resize(qsizetype(rows) * m_cols);
         m_rows = rows;
         endInsertRows();
     } else if (rows < m_rows) {
         beginRemoveRows({}, rows - 1, m_rows - 2);
-        m_texts.resize(std::size_t(rows) * std::size_t(m_cols));
+        m_texts.resize(qsizetype(rows) * m_cols);
         m_pictures.erase(m_pictures.lower_bound({rows, 0}), m_pictures.end());
         m_rows = rows;
         endRemoveRows();
@@ -65,11 +62,11 @@ void FlexGridModel::setCols(int cols)
     if (cols == m_cols)
         return;
     beginResetModel();
-    std::vector<QString> texts(std::size_t(m_rows) * std::size_t(cols));
+    QList<QString> texts(qsizetype(m_rows) * cols);
     const int kept = std::min(cols, m_cols);
     for (int row = 0; row < m_rows; ++row)
         for (int col = 0; col < kept; ++col)
-            texts[std::size_t(row) * std::size_t(cols) + std::size_t(col)] = std::move(m_texts[cell(row, col)]);
+            texts[qsizetype(row) * cols + col] = text(row, col);
     m_texts = std::move(texts);
     std::erase_if(m_pictures, [cols](const auto &each) { return each.first.second >= cols; });
     m_cols = cols;
@@ -79,8 +76,7 @@ void FlexGridModel::setCols(int cols)
 void FlexGridModel::removeRow(int row)
 {
     beginRemoveRows({}, row - 1, row - 1);
-    const auto first = m_texts.begin() + std::ptrdiff_t(cell(row, 0));
-    m_texts.erase(first, first + m_cols);
+    m_texts.remove(cell(row, 0), m_cols);
     std::map<std::pair<int, int>, QPixmap> pictures;
     for (const auto &[place, pixmap] : m_pictures)
         if (place.first != row)
@@ -112,13 +108,13 @@ void FlexGridModel::setPicture(int row, int col, const QPixmap &picture)
 
 void FlexGridModel::setAlignment(int col, Qt::Alignment alignment)
 {
-    if (m_alignments.size() <= std::size_t(col))
-        m_alignments.resize(std::size_t(col) + 1, Qt::AlignLeft);
-    m_alignments[std::size_t(col)] = alignment;
+    while (m_alignments.size() <= col)
+        m_alignments.append(Qt::AlignLeft);
+    m_alignments[col] = alignment;
 }
 
 void FlexGridModel::clear()
 {
-    std::fill(m_texts.begin(), m_texts.end(), QString());
+    m_texts.fill(QString());
     m_pictures.clear();
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QList>
 #include <QPixmap>
 
 #include <map>
-#include <vector>
 
 /// Texts of a grid, row by row; row 0 is the headings, so that the view's first row is the grid's row 1.
 class FlexGridModel : public QAbstractTableModel
@@ -25,7 +25,7 @@ public:
     void setRows(int rows);
     void setCols(int cols);
     void removeRow(int row);
-    const QString &text(int row, int col) const { return m_texts[cell(row, col)]; }
+    const QString &text(int row, int col) const { return m_texts.at(cell(row, col)); }
     void setText(int row, int col, const QString &text);
     QPixmap picture(int row, int col) const;
     void setPicture(int row, int col, const QPixmap &picture);
@@ -33,11 +33,11 @@ public:
     void clear();
 
 private:
-    std::size_t cell(int row, int col) const { return std::size_t(row) * std::size_t(m_cols) + std::size_t(col); }
+    qsizetype cell(int row, int col) const { return qsizetype(row) * m_cols + col; }
 
     int m_rows = 1;
     int m_cols = 2;
-    std::vector<QString> m_texts = std::vector<QString>(2);
-    std::vector<Qt::Alignment> m_alignments;
+    QList<QString> m_texts = QList<QString>(2);
+    QList<Qt::Alignment> m_alignments;
     std::map<std::pair<int, int>, QPixmap> m_pictures;
 };

@@ -41,7 +41,8 @@ public:
 };
 
 /// What becomes of keys and clicks that wait while events run.
-enum class WaitingInput {
+enum class WaitingInput
+{
     Runs,
     Stays, ///< they keep their order behind the event that is being handled, as a scanner's keys must
 };

@@ -1,0 +1,146 @@
+#include "platform/base/Err.h"
+#include "platform/base/Machine.h"
+#include "platform/window/Application.h"
+#include "platform/window/Forms.h"
+#include "platform/window/Look.h"
+#include "platform/window/Prompts.h"
+
+#include <QLabel>
+#include <QPalette>
+#include <QProcess>
+#include <QTest>
+#include <QTimer>
+
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+class Standing : public PromptService
+{
+public:
+    int message(const QString &text, int style, const QString &title) override
+    {
+        std::printf("%s|%d|%s\n", qPrintable(title), style, qPrintable(text));
+        std::fflush(stdout);
+        QCoreApplication::processEvents();
+        return vbOK;
+    }
+    QString openFile(const FileDialog &) override { return {}; }
+    QString saveFile(const FileDialog &) override { return {}; }
+};
+
+/// The child of the test below: fails inside a routine that another one waits for, and once more under the message.
+int failingProgram(int &argc, char **argv)
+{
+    Application application(argc, argv);
+    Standing prompts;
+    PromptService::use(&prompts);
+    const auto fail = [] { throw RunTimeError(ErrorNumber::BadSql, "Syntax error"); };
+    QTimer::singleShot(0, [&] {
+        QTimer::singleShot(0, fail);
+        QTimer::singleShot(0, fail);
+        for (int turn = 0; turn < 5; ++turn)
+            DoEvents();
+        std::puts("the waiting routine went on");
+        std::fflush(stdout);
+    });
+    return application.exec();
+}
+
+/// Contrast of two colours, 1 to 21, as the web's accessibility guidelines reckon it.
+double contrast(const QColor &one, const QColor &other)
+{
+    const auto luminance = [](const QColor &colour) {
+        const auto linear = [](double part) {
+            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+    };
+    const double a = luminance(one) + 0.05;
+    const double b = luminance(other) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+} // namespace
+
+class TestApplication : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void failureThatNoRoutineTrapsEndsTheProgram()
+    {
+        QProcess program;
+        program.start(QCoreApplication::applicationFilePath(), {"--fail"});
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 1);
+        QCOMPARE(QString::fromUtf8(program.readAllStandardOutput()),
+                 "Morvelane – Módulo Auxiliar|16|Erro em tempo de execução '3075':\n\nSyntax error\n");
+    }
+
+    void outlivesItsWindowsAndAsksPrintersLate()
+    {
+        QVERIFY(!QGuiApplication::quitOnLastWindowClosed());
+        QCOMPARE(QCoreApplication::applicationName(), "morvelane-auxiliar");
+        QCOMPARE(Machine::current().printerNames().isEmpty(), Machine::current().defaultPrinterName().isEmpty());
+    }
+
+    void coloursCanBeRead_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<QPalette::ColorRole>("ink");
+        QTest::addColumn<QPalette::ColorRole>("ground");
+        for (const bool dark : {false, true}) {
+            const auto row = [dark](const char *name, QPalette::ColorRole ink, QPalette::ColorRole ground) {
+                QTest::addRow("%s, %s", name, dark ? "dark" : "light") << dark << ink << ground;
+            };
+            row("text on a window", QPalette::WindowText, QPalette::Window);
+            row("text in a box", QPalette::Text, QPalette::Base);
+            row("text in every other row", QPalette::Text, QPalette::AlternateBase);
+            row("button", QPalette::ButtonText, QPalette::Button);
+            row("selection", QPalette::HighlightedText, QPalette::Highlight);
+            row("quiet text on a card", QPalette::PlaceholderText, QPalette::Light);
+            row("quiet text on a window", QPalette::PlaceholderText, QPalette::Window);
+            row("hint in a box", QPalette::PlaceholderText, QPalette::Base);
+            row("warning on a card", QPalette::BrightText, QPalette::Light);
+            row("warning on a window", QPalette::BrightText, QPalette::Window);
+            row("link on a card", QPalette::Link, QPalette::Light);
+        }
+    }
+
+    void coloursCanBeRead()
+    {
+        QFETCH(bool, dark);
+        QFETCH(QPalette::ColorRole, ink);
+        QFETCH(QPalette::ColorRole, ground);
+        const QPalette palette = lookPalette(dark);
+        QVERIFY(contrast(palette.color(ink), palette.color(ground)) >= 4.5);
+        for (const auto around : {QPalette::Base, QPalette::Light})
+            QVERIFY(contrast(palette.color(QPalette::Highlight), palette.color(around)) > 2.6);
+    }
+
+    void warningComesAndGoes()
+    {
+        QLabel label;
+        label.setProperty("quiet", true);
+        label.ensurePolished();
+        QCOMPARE(label.foregroundRole(), QPalette::PlaceholderText);
+        setWarning(label, true);
+        QCOMPARE(label.foregroundRole(), QPalette::BrightText);
+        setWarning(label, false);
+        QCOMPARE(label.foregroundRole(), QPalette::PlaceholderText);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    if (argc > 1 && qstrcmp(argv[1], "--fail") == 0)
+        return failingProgram(argc, argv);
+    Application application(argc, argv);
+    TestApplication test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_application.moc"
