@@ -3,6 +3,7 @@
 #include "platform/window/Forms.h"
 
 #include <QCloseEvent>
+#include <QPushButton>
 #include <QScopeGuard>
 #include <QWindow>
 
@@ -14,6 +15,9 @@ Form::Form()
 void Form::Load()
 {
     m_loaded = true;
+    // Enter presses the button that has the keyboard, on every desktop.
+    for (QPushButton *button : findChildren<QPushButton *>())
+        button->setAutoDefault(true);
     Form_Load();
 }
 
