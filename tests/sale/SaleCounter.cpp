@@ -1,6 +1,7 @@
 #include "tests/sale/SaleCounter.h"
 
 #include "configuration/Idiomas.h"
+#include "data/Funcoes.h"
 #include "platform/window/Forms.h"
 #include "sale/frmvenda.h"
 
@@ -24,9 +25,10 @@ QString values(const QList<QVariant> &fields)
 
 SaleCounter::SaleCounter(const QLocale &region) : cafe(region)
 {
-    openTill(cafe.folder());
+    cafe.execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (7,True)");
     cafe.setIni("Recibo Produtos", "Imprimir", "0");
     cafe.start();
+    Salvar_Escala_Impressora();
 }
 
 void SaleCounter::add(const Product &p)
