@@ -38,6 +38,13 @@ QMessageBox::Icon iconOf(int style)
     }
 }
 
+/// A dialog lies above its window in the band that the window stays in.
+void joinBand(QDialog &dialog)
+{
+    if (dialog.parentWidget() && dialog.parentWidget()->windowFlags() & Qt::WindowStaysOnTopHint)
+        dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+}
+
 /// "Pictures |*.bmp;*.jpg|" becomes "Pictures (*.bmp *.jpg)".
 QStringList nameFilters(const QString &filter)
 {
@@ -59,6 +66,7 @@ public:
     int message(const QString &text, int style, const QString &title) override
     {
         QMessageBox box(iconOf(style), title, text, QMessageBox::Ok, owner());
+        joinBand(box);
         // A name or a path in a message is no markup.
         box.setTextFormat(Qt::PlainText);
         box.setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -91,6 +99,7 @@ private:
     static QString ask(const FileDialog &wanted, QFileDialog::AcceptMode accept, QFileDialog::FileMode file)
     {
         QFileDialog dialog(owner(), wanted.DialogTitle, resolveIgnoringCase(wanted.InitDir));
+        joinBand(dialog);
         dialog.setAcceptMode(accept);
         dialog.setFileMode(file);
         dialog.setNameFilters(nameFilters(wanted.Filter));

@@ -91,9 +91,10 @@ private slots:
         QVERIFY(run("pdfinfo", {onlyDocument()}).contains("A4"));
     }
 
-    void placesInTwips()
+    void placesInTwipsOnThePaper()
     {
         Printer &printer = Printer::current();
+        printer.setPageSize(15840, 12240);
         printer.setFontSize(16);
         printer.setFontBold(true);
         printer.setCurrentX(1440);
@@ -108,13 +109,13 @@ private slots:
         printer.NewPage();
         printer.Print("last");
         printer.NewPage();
-        printer.setDocumentName("Etiquetas");
         printer.EndDoc();
 
         const auto found = places(onlyDocument());
         QVERIFY(qAbs(found.value("12345678").x() - 72) < 0.1);
         QVERIFY(run("pdffonts", {onlyDocument()}).contains("Bold"));
-        QVERIFY(QString::fromUtf8(run("pdfinfo", {onlyDocument()})).contains(QRegularExpression("Pages: +3\\b")));
+        const QString info = QString::fromUtf8(run("pdfinfo", {onlyDocument()}));
+        QVERIFY2(info.contains(QRegularExpression("Pages: +3\\b")) && info.contains("792 x 612"), qPrintable(info));
 
         const QString picture = m_folder->filePath("page");
         run("pdftoppm", {"-r", "72", "-f", "1", "-l", "1", "-singlefile", "-png", onlyDocument(), picture});
@@ -151,39 +152,23 @@ private slots:
         QVERIFY(m_opened.isEmpty());
     }
 
-    void takesThePaper()
-    {
-        Printer::current().setPageSize(15840, 12240);
-        QCOMPARE(Printer::current().PageWidth(), 15840);
-        Printer::current().Print("letter, landscape");
-        Printer::current().EndDoc();
-        QVERIFY(run("pdfinfo", {onlyDocument()}).contains("792 x 612"));
-    }
-
-    void failingDeviceRaisesAndForgets_data()
-    {
-        QTest::addColumn<QString>("device");
-        QTest::addColumn<QStringList>("installed");
-        QTest::newRow("folder can't be made") << "" << QStringList();
-        QTest::newRow("chosen printer is gone") << "Balcão" << QStringList();
-        QTest::newRow("system's printer is gone") << "" << QStringList("Balcão");
-    }
-
     void failingDeviceRaisesAndForgets()
     {
-        QFETCH(QString, device);
-        QFETCH(QStringList, installed);
         QFile blocking(m_folder->filePath("documents"));
         QVERIFY(blocking.open(QIODevice::WriteOnly));
-        Machine::current().printerNames = [installed] { return installed; };
-        Printer::current().setDeviceName(device);
-        QCOMPARE(Printers(), installed);
-
-        Printer::current().Print("lost");
-        Err::Clear();
-        OnErrorResumeNext([] { Printer::current().EndDoc(); });
-        QCOMPARE(Err::Number(), ErrorNumber::PrinterError);
-        QVERIFY(OnErrorResumeNext([] { Printer::current().EndDoc(); }));
+        Printer &printer = Printer::current();
+        // A folder that can't be made, the system's printer that is gone, a chosen one that is gone.
+        for (const auto &[installed, chosen] :
+             {std::pair(QStringList(), ""), std::pair(QStringList("Balcão"), ""), std::pair(QStringList(), "Balcão")}) {
+            Machine::current().printerNames = [names = installed] { return names; };
+            QCOMPARE(Printers(), installed);
+            printer.setDeviceName(chosen);
+            printer.Print("lost");
+            Err::Clear();
+            OnErrorResumeNext([&] { printer.EndDoc(); });
+            QCOMPARE(Err::Number(), ErrorNumber::PrinterError);
+            QVERIFY(OnErrorResumeNext([&] { printer.EndDoc(); }));
+        }
         QVERIFY(m_opened.isEmpty());
     }
 

@@ -1,5 +1,4 @@
 #include "platform/base/Err.h"
-#include "platform/base/Machine.h"
 #include "platform/window/Application.h"
 #include "platform/window/Forms.h"
 #include "platform/window/Look.h"
@@ -80,45 +79,26 @@ private slots:
                  "Morvelane – Módulo Auxiliar|16|Erro em tempo de execução '3075':\n\nSyntax error\n");
     }
 
-    void outlivesItsWindowsAndAsksPrintersLate()
-    {
-        QVERIFY(!QGuiApplication::quitOnLastWindowClosed());
-        QCOMPARE(QCoreApplication::applicationName(), "morvelane-auxiliar");
-        QCOMPARE(Machine::current().printerNames().isEmpty(), Machine::current().defaultPrinterName().isEmpty());
-    }
-
-    void coloursCanBeRead_data()
-    {
-        QTest::addColumn<bool>("dark");
-        QTest::addColumn<QPalette::ColorRole>("ink");
-        QTest::addColumn<QPalette::ColorRole>("ground");
-        for (const bool dark : {false, true}) {
-            const auto row = [dark](const char *name, QPalette::ColorRole ink, QPalette::ColorRole ground) {
-                QTest::addRow("%s, %s", name, dark ? "dark" : "light") << dark << ink << ground;
-            };
-            row("text on a window", QPalette::WindowText, QPalette::Window);
-            row("text in a box", QPalette::Text, QPalette::Base);
-            row("text in every other row", QPalette::Text, QPalette::AlternateBase);
-            row("button", QPalette::ButtonText, QPalette::Button);
-            row("selection", QPalette::HighlightedText, QPalette::Highlight);
-            row("quiet text on a card", QPalette::PlaceholderText, QPalette::Light);
-            row("quiet text on a window", QPalette::PlaceholderText, QPalette::Window);
-            row("hint in a box", QPalette::PlaceholderText, QPalette::Base);
-            row("warning on a card", QPalette::BrightText, QPalette::Light);
-            row("warning on a window", QPalette::BrightText, QPalette::Window);
-            row("link on a card", QPalette::Link, QPalette::Light);
-        }
-    }
-
     void coloursCanBeRead()
     {
-        QFETCH(bool, dark);
-        QFETCH(QPalette::ColorRole, ink);
-        QFETCH(QPalette::ColorRole, ground);
-        const QPalette palette = lookPalette(dark);
-        QVERIFY(contrast(palette.color(ink), palette.color(ground)) >= 4.5);
-        for (const auto around : {QPalette::Base, QPalette::Light})
-            QVERIFY(contrast(palette.color(QPalette::Highlight), palette.color(around)) > 2.6);
+        using Role = QPalette::ColorRole;
+        constexpr std::pair<Role, Role> inks[] = {{Role::WindowText, Role::Window},
+                                                  {Role::Text, Role::Base},
+                                                  {Role::Text, Role::AlternateBase},
+                                                  {Role::ButtonText, Role::Button},
+                                                  {Role::HighlightedText, Role::Highlight},
+                                                  {Role::PlaceholderText, Role::Light},
+                                                  {Role::PlaceholderText, Role::Window},
+                                                  {Role::PlaceholderText, Role::Base},
+                                                  {Role::BrightText, Role::Light},
+                                                  {Role::BrightText, Role::Window},
+                                                  {Role::Link, Role::Light}};
+        for (const bool dark : {false, true}) {
+            const QPalette palette = lookPalette(dark);
+            for (const auto &[ink, ground] : inks)
+                QVERIFY2(contrast(palette.color(ink), palette.color(ground)) >= 4.5,
+                         qPrintable(QString("%1 on %2, dark %3").arg(ink).arg(ground).arg(dark)));
+        }
     }
 
     void warningComesAndGoes()

@@ -42,36 +42,31 @@ private slots:
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     }
 
-    void messageShowsItsStyle_data()
-    {
-        QTest::addColumn<int>("style");
-        QTest::addColumn<int>("icon");
-        QTest::addColumn<int>("key");
-        QTest::addColumn<int>("answer");
-        const int ok = vbOKOnly;
-        QTest::newRow("plain") << ok << int(QMessageBox::NoIcon) << int(Qt::Key_Return) << int(vbOK);
-        QTest::newRow("notice, escape") << 64 << int(QMessageBox::Information) << int(Qt::Key_Escape) << int(vbOK);
-        QTest::newRow("failure") << 16 << int(QMessageBox::Critical) << int(Qt::Key_Return) << int(vbOK);
-        QTest::newRow("question, enter") << 36 << int(QMessageBox::Question) << int(Qt::Key_Return) << int(vbYes);
-        QTest::newRow("question, escape") << 36 << int(QMessageBox::Question) << int(Qt::Key_Escape) << int(vbNo);
-        QTest::newRow("notice with a question")
-            << 68 << int(QMessageBox::Information) << int(Qt::Key_Escape) << int(vbNo);
-    }
-
     void messageShowsItsStyle()
     {
-        QFETCH(int, style);
-        QFETCH(int, icon);
-        QFETCH(int, key);
+        struct
+        {
+            int style;
+            QMessageBox::Icon icon;
+            int buttons;
+            Qt::Key key;
+            int answer;
+        } constexpr cases[] = {{vbOKOnly, QMessageBox::NoIcon, 1, Qt::Key_Return, vbOK},
+                               {vbInformation, QMessageBox::Information, 1, Qt::Key_Escape, vbOK},
+                               {vbCritical, QMessageBox::Critical, 1, Qt::Key_Return, vbOK},
+                               {36, QMessageBox::Question, 2, Qt::Key_Return, vbYes},
+                               {68, QMessageBox::Information, 2, Qt::Key_Escape, vbNo}};
         const QString text = "Remover <b>MARIA</b> & filhos?\nAgora";
-        whenOpen<QMessageBox>([&](QMessageBox &box) {
-            QCOMPARE(box.text(), text);
-            QCOMPARE(box.textFormat(), Qt::PlainText);
-            QCOMPARE(int(box.icon()), icon);
-            QCOMPARE(box.buttons().size(), style & vbYesNo ? 2 : 1);
-            QTest::keyClick(&box, Qt::Key(key));
-        });
-        QTEST(MsgBox(text, style), "answer");
+        for (const auto &each : cases) {
+            whenOpen<QMessageBox>([&](QMessageBox &box) {
+                QCOMPARE(box.text(), text);
+                QCOMPARE(box.textFormat(), Qt::PlainText);
+                QCOMPARE(box.icon(), each.icon);
+                QCOMPARE(box.buttons().size(), each.buttons);
+                QTest::keyClick(&box, each.key);
+            });
+            QCOMPARE(MsgBox(text, each.style), each.answer);
+        }
     }
 
     void messageLiesAboveTheWindowOnTop()
