@@ -5,65 +5,45 @@
 #include "platform/window/Forms.h"
 #include "sale/frmvenda.h"
 
-#include <QAbstractButton>
 #include <QClipboard>
-#include <QLabel>
-#include <QLineEdit>
 #include <QTest>
 
-namespace {
-QString values(const QList<QVariant> &fields)
+QList<QStringList> table(const QStringList &rows)
 {
-    QStringList texts;
-    for (const QVariant &field : fields)
-        texts += field.typeId() == QMetaType::QString ? "'" + field.toString().replace("'", "''") + "'"
-                 : field.typeId() == QMetaType::Bool  ? (field.toBool() ? "True" : "False")
-                                                      : field.toString();
-    return " values (" + texts.join(',') + ")";
+    QList<QStringList> fields;
+    for (const QString &row : rows)
+        fields += row.split('|');
+    return fields;
 }
-} // namespace
 
 SaleCounter::SaleCounter(const QLocale &region) : cafe(region)
 {
     cafe.execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (7,True)");
     cafe.setIni("Recibo Produtos", "Imprimir", "0");
+    add("Produtos", "Codigo=2, Descrição='ÁGUA', Estoque_Min='8', Cod='12', Cod_Barra='7891200000074'");
+    add("Produtos", "Codigo=3, Descrição='BALA'");
+    add("Produtos", "Codigo=4, Descrição='CAFÉ', Estoque_Min='9'");
+    add("Clientes", "Codigo=1, Nome='ANA LIMA', Nick='ZEBRA', Grupo='VIP'");
+    add("Descontos", "Codigo=1, Fixo=False, LiberarAuto=False, Motivo_Desconto='NEGOCIADO'");
     cafe.start();
     Salvar_Escala_Impressora();
 }
 
-void SaleCounter::add(const Product &p)
+void SaleCounter::add(const QString &table, const QString &changes)
 {
-    cafe.execute(
-        "Insert into Produtos (Codigo,Descrição,Valor_Unitario,Quantidade,Estoque_Min,Cod,Cod_Barra,Servico,"
-        "Categoria)" +
-        values({p.code, p.description, p.price, p.stock, p.minimum, p.internalCode, p.barcode, p.service, p.category}));
-}
-
-void SaleCounter::add(const Rule &r)
-{
-    cafe.execute("Insert into Descontos (Codigo,Relativo,Absoluto,Valor,Condicao,Grupo,Categoria,Fixo,LiberarAuto,"
-                 "AtoCadastro,TipoVenda,Motivo_Desconto)" +
-                 values({r.code, r.relative, r.absolute, r.threshold, QString::number(r.condition), r.group, r.category,
-                         r.fixed, r.automatic, r.onRegistration, QString::number(r.saleType), r.motive}));
-}
-
-void SaleCounter::addCustomer(const QString &name, const QString &nick, const QString &group, const QString &photo)
-{
-    const int code = cafe.value("Select Count(*) from Clientes").toInt() + 1;
-    cafe.execute("Insert into Clientes (Codigo,Nome,Nick,Grupo,CaminhoFoto)" +
-                 values({code, name, nick, group, photo}));
-}
-
-void SaleCounter::stockUp()
-{
-    add({.code = 2, .description = "ÁGUA", .minimum = "8", .internalCode = "12", .barcode = "7891200000074"});
-    add({.code = 3, .description = "BALA"});
-    add({.code = 4, .description = "CAFÉ", .minimum = "9"});
-    addCustomer("ANA LIMA", "ZEBRA");
+    static const QHash<QString, QString> usual{
+        {"Produtos", "(Codigo,Quantidade,Estoque_Min,Valor_Unitario,Cod,Servico,Categoria) values "
+                     "(0,'10','0','10','---',False,'DIVERSOS')"},
+        {"Clientes", "(Codigo,CaminhoFoto,Grupo) values (0,'-----','NORMAL')"},
+        {"Descontos", "(Codigo,Motivo_Desconto,Fixo,Relativo,Absoluto,Grupo,Categoria,AtoCadastro,Valor,TipoVenda,"
+                      "Condicao,LiberarAuto) values (0,'MOTIVO',True,'0','0','---','-----',False,'0','2','1',True)"}};
+    cafe.execute("Insert into " + table + ' ' + usual[table]);
+    change(table, changes + " Where Codigo=0");
 }
 
 void SaleCounter::open()
 {
+    Descarregar_Forms();
     auto &form = Forms::use<frmvenda>();
     form.Show();
     QVERIFY(QTest::qWaitForWindowActive(&form));
@@ -74,24 +54,23 @@ QString SaleCounter::shown(const QString &name)
     return at(name).property(at(name).inherits("QComboBox") ? "currentText" : "text").toString();
 }
 
-bool SaleCounter::ticked(const QString &name)
+void SaleCounter::enter(const QString &name, const QString &text)
 {
-    return at<QAbstractButton>(name).isChecked();
+    type(name, text);
+    pressKey(at(name), Qt::Key_Return);
 }
 
 void SaleCounter::paste(const QString &name, const QString &text)
 {
     QGuiApplication::clipboard()->setText(text);
-    clear(name);
+    type(name, {});
     pressKey(at(name), Qt::Key_V, Qt::ControlModifier);
 }
 
 void SaleCounter::put(const QString &product, const QString &quantity)
 {
-    type("cmbprodutos", product);
-    pressKey(at("cmbprodutos"), Qt::Key_Return);
-    type("txtquantidade", quantity);
-    pressKey(at("txtquantidade"), Qt::Key_Return);
+    enter("cmbprodutos", product);
+    enter("txtquantidade", quantity);
 }
 
 QStringList SaleCounter::cart()
@@ -99,26 +78,33 @@ QStringList SaleCounter::cart()
     QStringList lines;
     const auto &grid = at<FlexGrid>("tab_consumo");
     for (int row = 1; row < grid.Rows(); ++row)
-        lines += QStringList{grid.TextMatrix(row, 1), grid.TextMatrix(row, 2), grid.TextMatrix(row, 3)}.join('|');
+        lines += grid.TextMatrix(row, 1) + '|' + grid.TextMatrix(row, 2) + '|' + grid.TextMatrix(row, 3);
     return lines;
 }
 
-void SaleCounter::expectNotice(const QString &key, const Attendant::Action &meanwhile)
+void SaleCounter::expectNotice(const QString &key)
 {
-    attendant.expectNotice(textoIdioma("frmvenda", key), "Aviso", meanwhile);
+    attendant.expectNotice(textoIdioma("frmvenda", key), "Aviso");
 }
 
-void SaleCounter::expectQuestion(const QString &text, int answer, const Attendant::Action &meanwhile)
+void SaleCounter::expectTooMuch(const QString &quantity, const QString &product, const QString &stock)
 {
-    attendant.expect(text, vbYesNo + vbInformation, "Atenção", answer, meanwhile);
+    attendant.expectNotice(QString("A quantidade pedida (%1) é maior que o estoque.\nO produto %2 tem %3 em estoque.")
+                               .arg(quantity, product, stock),
+                           "Aviso");
 }
 
-void SaleCounter::sell(const QString &amount, const QString &question)
+void SaleCounter::expectQuestion(const QString &amount, int answer, const Attendant::Action &meanwhile)
 {
-    expectQuestion(question);
+    attendant.expect("Confirma a venda no valor de R$ " + amount + "?", vbYesNo + vbInformation, "Atenção", answer,
+                     meanwhile);
+}
+
+void SaleCounter::sell(const QString &paid, const QString &amount)
+{
+    expectQuestion(amount);
     expectNotice("MsgBox13");
-    type("txtvalor_pago", amount);
-    pressKey(at("txtvalor_pago"), Qt::Key_Return);
+    enter("txtvalor_pago", paid);
 }
 
 QStringList SaleCounter::sold(const QString &fields)

@@ -2,13 +2,10 @@
 #include "tests/sale/SaleCounter.h"
 #include "tests/support/PdfText.h"
 
-#include <QAbstractButton>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
-
-#include <memory>
 
 namespace {
 /// The words of each page of a PDF as "word@column,line", in characters of 6 by 12 points.
@@ -34,10 +31,16 @@ QList<QStringList> placesOf(const QString &pdf)
     return pages;
 }
 
-QByteArray readAll(const QString &path)
+QString counters(const SaleCounter &counter)
+{
+    const auto read = [&](const char *key) { return Ler_INI(counter.cafe.path("inf.rcb"), "Recibo", key); };
+    return read("Data") + ' ' + read("ID") + '/' + read("ID_Total");
+}
+
+QString fileText(const QString &path, QString (*decode)(QByteArrayView))
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? decode(file.readAll()) : QString();
 }
 } // namespace
 
@@ -47,223 +50,125 @@ class tst_receipts : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup() { counter.reset(); }
+    void placesCopiesOnTheSheet()
+    {
+        const QStringList words{"Recibo@0,0",  "Data:@28,0",        "14:30:05@46,0", "MORVELANE@0,2", "CNPJ:@70,2",
+                                "RUA@0,3",     "Cliente:@0,5",      "Produto@0,8",   "BALA@0,9",      "3@33,9",
+                                "30,00@49,9",  "ÁGUA@0,10",         "40,00@16,14",   "1,50@16,15",    "Valor@46,8",
+                                "50,00@16,16", "(NEGOCIADO)@21,15", "11,50@16,17"};
+        SaleCounter counter;
+        counter.change("Produtos", "Estoque_Min='0'");
+        counter.open();
+        for (const int copies : {1, 2}) {
+            // The settings window ticks the receipt's box without a click of it, so that this isn't kept.
+            counter.press("lblconfigurar_recibo");
+            QVERIFY(control(loadedWindow("frmconfig_recibo"), "opt1via").property("checked").toBool());
+            click(loadedWindow("frmconfig_recibo"), QString("opt%1via").arg(copies));
+            click(loadedWindow("frmconfig_recibo"), "cmdok");
+            QVERIFY(counter.ticked("chkrecibo"));
+            QCOMPARE(counter.cafe.ini("Recibo Produtos", "Imprimir"), QString("0"));
 
-    void placesCopiesOnTheSheet_data();
-    void placesCopiesOnTheSheet();
-    void goesOnWithFreshSheets();
-    void writesToPort_data();
-    void writesToPort();
-    void numbers_data();
-    void numbers();
-    void usesUpNoNumber_data();
-    void usesUpNoNumber();
-    void keepsItsSettings();
-
-private:
-    void sellOne();
-    QString counterFile() const { return counter->cafe.path("inf.rcb"); }
-    QString numberOf(const QString &key) const { return Ler_INI(counterFile(), "Recibo", key); }
-
-    std::unique_ptr<SaleCounter> counter;
-};
-
-void tst_receipts::init()
-{
-    counter = std::make_unique<SaleCounter>();
-    counter->stockUp();
-    counter->add(Rule{.code = 1, .fixed = false, .automatic = false, .motive = "NEGOCIADO"});
-    counter->cafe.setIni("Recibo Produtos", "Imprimir", "1");
-}
-
-void tst_receipts::sellOne()
-{
-    counter->open();
-    counter->put("BALA");
-    counter->sell("10", "Confirma a venda no valor de R$ 10,00, paga por\nANA LIMA?");
-}
-
-void tst_receipts::placesCopiesOnTheSheet_data()
-{
-    QTest::addColumn<QString>("copies");
-    QTest::addColumn<QList<int>>("starts");
-    QTest::addColumn<QStringList>("stars");
-    QTest::newRow("one copy") << "1" << QList<int>{0} << QStringList{"1", "4", "29"};
-    QTest::newRow("two copies") << "2" << QList<int>{0, 30} << QStringList{"1", "4", "29", "31", "34", "60"};
-}
-
-void tst_receipts::placesCopiesOnTheSheet()
-{
-    QFETCH(QString, copies);
-    QFETCH(QList<int>, starts);
-    QFETCH(QStringList, stars);
-    counter->cafe.setIni("Recibo", "Via", copies);
-    counter->open();
-    counter->put("BALA", "3");
-    counter->put("12");
-    counter->type("txtvalor_desconto", "1,5");
-    counter->sell("50", "Confirma a venda no valor de R$ 38,50, paga por\nANA LIMA?");
-
-    QCOMPARE(counter->machine.printouts().size(), 1);
-    QCOMPARE(counter->machine.openedDocuments, counter->machine.printouts());
-    const QList<QStringList> pages = placesOf(counter->machine.printouts().first());
-    QCOMPARE(pages.size(), 1);
-    const QStringList words = pages.first();
-    for (const int start : starts) {
-        const QList<std::pair<const char *, int>> expected{
-            {"Recibo@0", 0},    {"00001@10", 0},    {"Data:@28", 0},        {"15/03/2024@34", 0},
-            {"14:30:05@46", 0}, {"MORVELANE@0", 2}, {"CNPJ:@70", 2},        {"RUA@0", 3},
-            {"Cliente:@0", 5},  {"Produto@0", 8},   {"Quantidade@33", 8},   {"Valor@46", 8},
-            {"BALA@0", 9},      {"3@33", 9},        {"30,00@49", 9},        {"ÁGUA@0", 10},
-            {"40,00@16", 14},   {"1,50@16", 15},    {"(NEGOCIADO)@21", 15}, {"50,00@16", 16},
-            {"11,50@16", 17}};
-        for (const auto &[word, line] : expected) {
-            const QString place = QString("%1,%2").arg(word).arg(start + line);
-            QVERIFY2(words.contains(place), qPrintable(place + " is not among " + words.join(' ')));
+            counter.put("BALA", "3");
+            counter.put("12");
+            counter.type("txtvalor_desconto", "1,5");
+            counter.sell("50", "38,50, paga por\nANA LIMA");
+            QCOMPARE(counter.machine.openedDocuments.size(), copies);
+            const QList<QStringList> pages = placesOf(counter.machine.openedDocuments.last());
+            QCOMPARE(pages.size(), 1);
+            for (int copy = 0; copy < copies; ++copy)
+                for (const QString &word : words + QStringList{QString("0000%1@10,0").arg(copies)}) {
+                    const int line = word.section(',', -1).toInt() + 30 * copy;
+                    const QString place = word.section(',', 0, -2) + ',' + QString::number(line);
+                    QVERIFY2(pages[0].contains(place), qPrintable(place + " is not among " + pages[0].join(' ')));
+                }
+            for (const QString &line : QStringList{"1", "4", "29", "31", "34", "60"}.mid(0, 3 * copies))
+                QVERIFY2(pages[0].contains(QString(98, '*') + "@1," + line), qPrintable(line));
+            for (const char *line : {"6", "11"})
+                QVERIFY2(pages[0].contains(QString(98, '=') + "@1," + line), line);
         }
+        counter.press("chkrecibo");
+        counter.press("chkrecibo");
+        QCOMPARE(counter.cafe.ini("Recibo Produtos", "Imprimir"), QString("1"));
     }
-    const auto rules = [&](QChar character) {
-        QStringList lines;
-        for (const QString &word : words)
-            if (word.count(character) == 98 && word.contains("@1,"))
-                lines += word.section(',', 1);
-        return lines;
-    };
-    QCOMPARE(rules('*'), stars);
-    QCOMPARE(rules('=').mid(0, 2), (QStringList{"6", "11"}));
-    QCOMPARE(numberOf("ID"), QString("1"));
-    QCOMPARE(numberOf("ID_Total"), QString("1"));
-}
 
-void tst_receipts::goesOnWithFreshSheets()
-{
-    for (int code = 10; code < 70; ++code)
-        counter->add(Product{.code = code, .description = QString("P%1").arg(code), .price = "1"});
-    counter->open();
-    for (int code = 10; code < 70; ++code)
-        counter->put(QString("P%1").arg(code));
-    counter->press("optavulsa");
-    counter->sell("60", "Confirma a venda no valor de R$ 60,00?");
-    const QList<QStringList> pages = placesOf(counter->machine.printouts().first());
-    QCOMPARE(pages.size(), 2);
-    for (const char *place : {"P10@0,9", "P58@0,57"})
-        QVERIFY2(pages.first().contains(place), place);
-    for (const char *place : {"Recibo@0,0", "00001@10,0", "avulsa@6,5", "P59@0,8", "P69@0,18", "60,00@16,22"})
-        QVERIFY2(pages.last().contains(place), place);
-    QCOMPARE(numberOf("ID"), QString("1"));
-}
-
-void tst_receipts::writesToPort_data()
-{
-    QTest::addColumn<QString>("port");
-    QTest::addColumn<bool>("walkIn");
-    QTest::newRow("port_one_copy") << "" << false;
-    QTest::newRow("port_two_copies") << "lpt1:" << true;
-}
-
-void tst_receipts::writesToPort()
-{
-    QFETCH(QString, port);
-    QFETCH(bool, walkIn);
-    const QString device = counter->machine.installPort(1);
-    counter->cafe.setIni("Matricial", "Ativo", "1");
-    counter->cafe.setIni("Matricial", "Porta", port);
-    counter->cafe.setIni("Recibo", "Via", walkIn ? "2" : "1");
-    counter->add(Product{.code = 9, .description = "CABO DE REDE COM CONECTORES 20M", .price = "1234,5"});
-    counter->open();
-    counter->put("CABO");
-    if (walkIn) {
-        counter->press("optavulsa");
-        counter->sell("1234,5", "Confirma a venda no valor de R$ 1234,50?");
-    } else {
-        counter->put("12", "2");
-        counter->type("txtvalor_desconto", "4,5");
-        counter->expectQuestion("Confirma a venda no valor de R$ 1250,00, paga por\nANA LIMA?");
-        counter->expectNotice("MsgBox13");
-        counter->attendant.expectNotice("Os produtos abaixo atingiram o estoque mínimo:\n\nÁGUA\n", "Atenção");
-        counter->type("txtvalor_pago", "1300");
-        counter->press("cmdfinalizar");
+    void goesOnWithFreshSheets()
+    {
+        SaleCounter counter;
+        counter.cafe.setIni("Recibo Produtos", "Imprimir", "1");
+        for (int code = 10; code < 70; ++code)
+            counter.add("Produtos", QString("Codigo=%1, Descrição='P%1', Valor_Unitario='1'").arg(code));
+        counter.open();
+        for (int code = 10; code < 70; ++code)
+            counter.put(QString("P%1").arg(code));
+        counter.press("optavulsa");
+        counter.sell("60", "60,00");
+        const QList<QStringList> pages = placesOf(counter.machine.printouts().first());
+        QCOMPARE(pages.size(), 2);
+        for (const char *place : {"P10@0,9", "P58@0,57"})
+            QVERIFY2(pages[0].contains(place), place);
+        for (const char *place : {"Recibo@0,0", "00001@10,0", "avulsa@6,5", "P59@0,8", "P69@0,18", "60,00@16,22"})
+            QVERIFY2(pages[1].contains(place), place);
     }
-    const QByteArray golden = readAll(QString("%1/%2.txt").arg(GOLDEN_FOLDER, QTest::currentDataTag()));
-    const QString expected = QString::fromUtf8(golden).replace("\n", "\r\n");
-    QCOMPARE(QString::fromLatin1(readAll(device)), expected);
-    QCOMPARE(counter->machine.printouts().size(), 0);
-    QCOMPARE(numberOf("ID_Total"), QString("1"));
-}
 
-void tst_receipts::numbers_data()
-{
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("number");
-    QTest::newRow("no file") << ""
-                             << "00001 / 00001";
-    QTest::newRow("first of a day") << "Data=14/03/2024\nID=17\nID_Total=99"
-                                    << "00001 / 00100";
-    QTest::newRow("next of the day") << "Data=15/03/2024\nID=17\nID_Total=99"
-                                     << "00018 / 00100";
-    QTest::newRow("highest") << "Data=15/03/2024\nID=99999\nID_Total=99999"
-                             << "00001 / 00001";
-    QTest::newRow("damaged") << "Data=15/03/2024\nID=x\nID_Total="
-                             << "00001 / 00001";
-}
-
-void tst_receipts::numbers()
-{
-    QFETCH(QString, before);
-    QFETCH(QString, number);
-    if (!before.isEmpty())
-        counter->cafe.writeFile("inf.rcb", "[Recibo]\n" + before.toUtf8() + "\n");
-    sellOne();
-    const QString heading = pdfLines(counter->machine.printouts().first()).first();
-    QVERIFY2(heading.startsWith("Recibo nº " + number), qPrintable(heading));
-    QCOMPARE(numberOf("Data"), QString("15/03/2024"));
-    QCOMPARE(numberOf("ID").toInt(), number.left(5).toInt());
-    QCOMPARE(numberOf("ID_Total").toInt(), number.right(5).toInt());
-}
-
-void tst_receipts::usesUpNoNumber_data()
-{
-    QTest::addColumn<QString>("port");
-    QTest::newRow("printer that refuses") << "";
-    QTest::newRow("port without a device") << "LPT1";
-    QTest::newRow("file that cannot be") << "/dev/null/receipt";
-}
-
-void tst_receipts::usesUpNoNumber()
-{
-    QFETCH(QString, port);
-    counter->cafe.writeFile("inf.rcb", "[Recibo]\nData=14/03/2024\nID=17\nID_Total=99\n");
-    counter->cafe.setIni("Matricial", "Ativo", port.isEmpty() ? "0" : "1");
-    counter->cafe.setIni("Matricial", "Porta", port);
-    counter->machine.breakPrinter();
-    sellOne();
-    QCOMPARE(counter->sold("Descrição"), QStringList{"BALA"});
-    QCOMPARE(numberOf("ID") + numberOf("ID_Total"), QString("1799"));
-    // The day is taken over with the heading, so that the day's first receipt on paper goes on with the old numbers.
-    QCOMPARE(numberOf("Data"), QString("15/03/2024"));
-    QVERIFY(!QFile::exists("LPT1"));
-}
-
-void tst_receipts::keepsItsSettings()
-{
-    counter->open();
-    QVERIFY(counter->ticked("chkrecibo"));
-    counter->press("chkrecibo");
-    QCOMPARE(counter->cafe.ini("Recibo Produtos", "Imprimir"), QString("0"));
-    for (const char *copies : {"2", "1"}) {
-        counter->press("lblconfigurar_recibo");
-        QVERIFY(counter->ticked("chkrecibo"));
-        Form &settings = loadedWindow("frmconfig_recibo");
-        QVERIFY(control<QAbstractButton>(settings, *copies == '2' ? "opt1via" : "opt2via").isChecked());
-        click(settings, *copies == '2' ? "opt2via" : "opt1via");
-        click(settings, "cmdok");
-        QVERIFY(!settings.isVisible());
-        QCOMPARE(counter->cafe.ini("Recibo", "Via"), QString(copies));
+    void writesToPort()
+    {
+        SaleCounter counter;
+        const QString device = counter.machine.installPort(1);
+        const auto prints = [&](const char *golden) {
+            const QString expected = fileText(QString(GOLDEN_FOLDER) + golden, QString::fromUtf8);
+            QCOMPARE(fileText(device, QString::fromLatin1), QString(expected).replace("\n", "\r\n"));
+        };
+        counter.cafe.setIni("Recibo Produtos", "Imprimir", "1");
+        counter.cafe.setIni("Matricial", "Ativo", "1");
+        counter.cafe.setIni("Matricial", "Porta", "");
+        counter.add("Produtos", "Codigo=9, Descrição='CABO DE REDE COM CONECTORES 20M', Valor_Unitario='1234,5'");
+        counter.open();
+        counter.put("CABO");
+        counter.put("BALA", "2");
+        counter.type("txtvalor_desconto", "4,5");
+        counter.sell("1300", "1250,00, paga por\nANA LIMA");
+        prints("port_one_copy.txt");
+        counter.cafe.setIni("Matricial", "Porta", "lpt1:");
+        counter.cafe.setIni("Recibo", "Via", "2");
+        counter.put("CABO");
+        counter.press("optavulsa");
+        counter.sell("1234,5", "1234,50");
+        prints("port_two_copies.txt");
+        QCOMPARE(counter.machine.printouts().size(), 0);
+        QCOMPARE(counters(counter), QString("15/03/2024 2/2"));
     }
-    // Only the attendant's own click is kept.
-    QCOMPARE(counter->cafe.ini("Recibo Produtos", "Imprimir"), QString("0"));
-}
+
+    void numbersReceipts()
+    {
+        SaleCounter counter;
+        counter.cafe.setIni("Recibo Produtos", "Imprimir", "1");
+        counter.open();
+        for (const QStringList &row :
+             table({"|00001 / 00001|1/1", "Data=14/03/2024\nID=17\nID_Total=99|00001 / 00100|1/100",
+                    "Data=15/03/2024\nID=17\nID_Total=98|00018 / 00099|18/99",
+                    "Data=15/03/2024\nID=99999\nID_Total=x|00001 / 00001|1/1",
+                    "Data=15/03/2024\nID=1\nID_Total=99999|00002 / 00001|2/1"})) {
+            counter.cafe.writeFile("inf.rcb", "[Recibo]\n" + row[0].toUtf8() + "\n");
+            counter.put("BALA");
+            counter.sell("10");
+            const QString heading = pdfLines(counter.machine.openedDocuments.last()).first();
+            QVERIFY2(heading.startsWith("Recibo nº " + row[1]), qPrintable(heading));
+            QCOMPARE(counters(counter), "15/03/2024 " + row[2]);
+        }
+        counter.machine.breakPrinter();
+        for (const char *port : {"", "LPT1", "/dev/null/receipt"}) {
+            counter.cafe.writeFile("inf.rcb", "[Recibo]\nData=14/03/2024\nID=17\nID_Total=99\n");
+            counter.cafe.setIni("Matricial", "Ativo", *port == 0 ? "0" : "1");
+            counter.cafe.setIni("Matricial", "Porta", port);
+            counter.put("BALA");
+            counter.sell("10");
+            // No number is used up; but the day is taken over, so that its first one on paper goes on with the old
+            // ones.
+            QCOMPARE(counters(counter), QString("15/03/2024 17/99"));
+        }
+        QVERIFY(!QFile::exists("LPT1"));
+    }
+};
 
 QTEST_MAIN(tst_receipts)
 #include "tst_receipts.moc"
