@@ -136,15 +136,16 @@ private slots:
         SaleCounter counter;
         QImage photo(4, 4, QImage::Format_RGB32);
         photo.fill(Qt::red);
-        QVERIFY(photo.save(counter.cafe.path("Fotos/bruno.png")));
-        const QString path = counter.cafe.path("FOTOS\\BRUNO.PNG");
-        counter.add("Clientes", "Codigo=2, Nome='BRUNO SÁ', Nick='REI', CaminhoFoto='" + path + "'");
+        QVERIFY(photo.save(counter.cafe.path("Fotos/ana.png")));
+        const QString path = counter.cafe.path("FOTOS\\ANA.PNG");
+        counter.change("Clientes", "CaminhoFoto='" + path + "'");
+        counter.add("Clientes", "Codigo=2, Nome='BRUNO SÁ', Nick='REI'");
         counter.add("Clientes", "Codigo=3, Nome='CARLA REIS', Nick='BRUTA', CaminhoFoto='" + path + "x'");
         counter.open();
         const auto shows = [&](const QString &name) {
             QCOMPARE(counter.shown("txtnome"), name);
             const QImage shown = counter.at("imgfoto").property("pixmap").value<QPixmap>().toImage();
-            QCOMPARE(shown.pixelColor(shown.rect().center()) == Qt::red, name == "BRUNO SÁ");
+            QCOMPARE(shown.pixelColor(shown.rect().center()) == Qt::red, name == "ANA LIMA");
         };
         shows("ANA LIMA");
         counter.enter("txtnome", "bru");

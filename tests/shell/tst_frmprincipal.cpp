@@ -3,6 +3,7 @@
 #include "data/Acesso_BD.h"
 #include "platform/print/Printer.h"
 #include "platform/window/Forms.h"
+#include "sale/frmconfig_recibo.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/Attendant.h"
 #include "tests/support/Controls.h"
@@ -111,10 +112,9 @@ private slots:
         shell.open();
         QVERIFY(!shell.ready());
         // It is told once; the file dialog is the way back.
-        QWidget another;
-        another.show();
-        another.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&another));
+        auto &other = Forms::use<frmconfig_recibo>();
+        other.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
         shell.open();
         shell.cafe.setIni("Config_Regional", "Idioma", "Portugues.lng");
         shell.choose(shell.cafe.dataFile());
