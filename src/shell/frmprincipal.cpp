@@ -17,6 +17,7 @@
 #include "sale/frmvenda.h"
 #include "ui_frmprincipal.h"
 
+#include <algorithm>
 #include <chrono>
 
 namespace {
@@ -40,6 +41,19 @@ constexpr QSize folderPictureSize(20, 20);
 QString languageLong()
 {
     return noLanguage + adviceOnRights;
+}
+
+/// The registry's default printer as the system spells it; empty when the system has none of that name.
+QString registeredPrinter()
+{
+    const QString wanted =
+        Ler_Registro(R"(HKEY_CURRENT_CONFIG\System\CurrentControlSet\Control\Print\Printers)", "Default").toUpper();
+    if (wanted == "ERROR" || wanted.isEmpty())
+        return {};
+    const QStringList names = Printers();
+    const auto found =
+        std::find_if(names.begin(), names.end(), [&](const QString &name) { return name.toUpper() == wanted; });
+    return found == names.end() ? QString() : *found;
 }
 
 void notice(const QString &text)
@@ -75,22 +89,8 @@ void frmprincipal::Form_Load()
     CaminhoBD = Ler_INI(ArquivoConfigIni, "Configuracoes", "BD");
     ui->txtbasedados->setText(CaminhoBD);
     CaminhoAlterado = false;
-    choosePrinter();
+    Printer::current().setDeviceChooser(registeredPrinter);
     Salvar_Escala_Impressora();
-}
-
-void frmprincipal::choosePrinter()
-{
-    const QString wanted =
-        Ler_Registro(R"(HKEY_CURRENT_CONFIG\System\CurrentControlSet\Control\Print\Printers)", "Default");
-    if (wanted == "Error" || wanted.isEmpty())
-        return;
-    const QStringList names = Printers();
-    for (const QString &name : names)
-        if (name.toUpper() == wanted.toUpper()) {
-            Printer::current().setDeviceName(name);
-            return;
-        }
 }
 
 void frmprincipal::Form_Activate()

@@ -45,7 +45,6 @@ private:
         RefusalTexts texts;
     };
 
-    void choosePrinter();
     void readLanguageName();
     void enableDoors(bool enabled);
     void startBar();

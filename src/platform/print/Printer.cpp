@@ -66,6 +66,19 @@ Printer &Printer::current()
     return printer;
 }
 
+QString Printer::DeviceName() const
+{
+    if (m_deviceChooser)
+        m_deviceName = std::exchange(m_deviceChooser, nullptr)();
+    return m_deviceName;
+}
+
+void Printer::setDeviceName(const QString &name)
+{
+    m_deviceName = name;
+    m_deviceChooser = nullptr;
+}
+
 void Printer::setFontName(const QString &name)
 {
     // The free twin of Courier New has the same widths.
@@ -154,8 +167,8 @@ RecordedPage &Printer::page()
 /// The printer that takes the document; an empty text when this computer has none.
 QString Printer::targetDevice() const
 {
-    if (!m_deviceName.isEmpty())
-        return m_deviceName;
+    if (const QString chosen = DeviceName(); !chosen.isEmpty())
+        return chosen;
     const QString systems = Machine::current().defaultPrinterName();
     return systems.isEmpty() ? Printers().value(0) : systems;
 }

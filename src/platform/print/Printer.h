@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 /// Units of a position on the sheet.
 enum class ScaleMode
 {
@@ -22,8 +24,11 @@ public:
 
     static Printer &current();
 
-    QString DeviceName() const { return m_deviceName; }
-    void setDeviceName(const QString &name) { m_deviceName = name; }
+    QString DeviceName() const;
+    void setDeviceName(const QString &name);
+    /// Names the device when it is first needed: looking for printers may wait for the network. An empty answer leaves
+    /// the choice to the system.
+    void setDeviceChooser(const std::function<QString()> &chooser) { m_deviceChooser = chooser; }
 
     /// What the next printout is, for the print queue and for the name of a PDF.
     void setDocumentName(const QString &name) { m_documentName = name; }
@@ -61,7 +66,8 @@ private:
     void printTo(const QString &device, const QString &title, const QList<RecordedPage> &pages) const;
     void printToFile(const QString &title, const QList<RecordedPage> &pages) const;
 
-    QString m_deviceName;
+    mutable QString m_deviceName;
+    mutable std::function<QString()> m_deviceChooser;
     QString m_documentName;
     QFont m_font;
     ScaleMode m_scaleMode = ScaleMode::Twips;

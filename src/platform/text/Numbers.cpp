@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
+#include <string>
 
 namespace {
 /// A place in a text of either encoding. Queries read numbers row by row, so nothing is copied or converted.
@@ -120,14 +121,9 @@ public:
             const double power = ExactPowers.at(static_cast<std::size_t>(std::abs(exponent)));
             return exponent < 0 ? digits / power : digits * power;
         }
-        constexpr std::size_t Longest = 40;
-        std::array<char, Longest> text{};
-        char *const end = text.data() + text.size();
-        char *last = std::to_chars(text.data(), end, m_digits).ptr;
-        *last++ = 'e';
-        last = std::to_chars(last, end, exponent).ptr;
+        const std::string text = std::to_string(m_digits) + 'e' + std::to_string(exponent);
         double number = 0.0;
-        const std::errc error = std::from_chars(text.data(), last, number).ec;
+        const std::errc error = std::from_chars(text.data(), text.data() + text.size(), number).ec;
         if (error == std::errc::result_out_of_range && exponent > 0)
             return {};
         return number;
