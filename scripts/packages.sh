@@ -1,7 +1,7 @@
 # Sourced by ./run and ./test: the packages of Debian 12 that each needs, and their installation.
 
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev libqt6svg6-dev libsqlcipher-dev"
-program_packages="libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-liberation xdg-utils"
+program_packages="qt6-translations-l10n fonts-liberation xdg-utils"
 test_packages="git clang-format clang-tidy poppler-utils"
 
 # install_packages NAME...: installs what is missing, with sudo when not root.
