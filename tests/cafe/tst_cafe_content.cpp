@@ -1,12 +1,10 @@
 #include "cafe/Cafe.h"
 #include "cafe/Resources.h"
-#include "cafe/TillSound.h"
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
 
 #include <QSet>
 #include <QTemporaryDir>
-#include <QtEndian>
 #include <QtTest>
 
 namespace {
@@ -41,13 +39,8 @@ private slots:
     void languageIsComplete_data();
     void languageIsComplete();
     void textsFitTheReceipt_data() { languageIsComplete_data(); }
-    void textsFitTheReceipt();
     void keysRefuseOrRenumber();
-    void fieldsReadAsDeclared();
     void thousandsOfRowsCanBeToldApart();
-    void demoIsTheSameEachTime();
-    void discountRulesReachEveryKind();
-    void soundIsAWave();
 
 private:
     QString cafe() const { return m_place.filePath("cafe"); }
@@ -102,33 +95,6 @@ void tst_cafe_content::languageIsComplete()
     }
 }
 
-void tst_cafe_content::textsFitTheReceipt()
-{
-    QFETCH(QString, language);
-    const auto width = [&](const QString &section, const QStringList &keys) {
-        qsizetype sum = 0;
-        for (const QString &key : keys)
-            sum += text(language, section, key).size();
-        return sum;
-    };
-    constexpr qsizetype Counter = 5;
-    constexpr qsizetype CompanyNumber = 18;
-    constexpr qsizetype PortWidth = 80;
-    QVERIFY(width("frmvenda", {"String1", "String1_2"}) + 2 * Counter < 28);
-    QVERIFY(width("frmcodigo_rapido", {"String8", "String8_2"}) + 2 * Counter < 28);
-    QVERIFY(width("frmvenda", {"DispositivoSaida1"}) < 33);
-    QVERIFY(width("frmvenda", {"DispositivoSaida2"}) < 46 - 33);
-    QVERIFY(width("frmvenda", {"DispositivoSaida10"}) + CompanyNumber <= 98 - 70);
-    QVERIFY(width("frmcodigo_rapido", {"DispositivoSaida5"}) + CompanyNumber <= 98 - 70);
-    QVERIFY(width("frmcodigo_rapido", {"DispositivoSaida12"}) + 50 <= PortWidth);
-    // The headings of the narrow printer stand over columns of 26 and 13 characters and a blank.
-    const QString heading = text(language, "frmvenda", "DispositivoSaida4");
-    QVERIFY(heading[25] == ' ' && heading[26] != ' ' && heading[39] == ' ' && heading[40] != ' ');
-    // Amounts stand below each other.
-    const QStringList amounts{"DispositivoSaida16", "DispositivoSaida17", "DispositivoSaida18", "DispositivoSaida19"};
-    QCOMPARE(width("frmvenda", amounts), 4 * width("frmvenda", {amounts[0]}));
-}
-
 void tst_cafe_content::keysRefuseOrRenumber()
 {
     createCafe(m_place.filePath("keys"), {});
@@ -147,21 +113,8 @@ void tst_cafe_content::keysRefuseOrRenumber()
           "Descontos (Codigo) values (7)", "Registro_Caixa (ID_Caixa) values (7)",
           "Codigo_Acesso (Codigo_Acesso) values ('000000000007')"}) {
         db->Execute(QString("Insert into ") + row);
-        QVERIFY_EXCEPTION_THROWN(db->Execute(QString("Insert into ") + row), RunTimeError);
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, db->Execute(QString("Insert into ") + row));
     }
-}
-
-void tst_cafe_content::fieldsReadAsDeclared()
-{
-    const DatabaseHandle db = openDataFile(cafe());
-    db->Execute("Insert into Produtos (Codigo,Descrição,Categoria,Servico) values (9,'BALA','diversos',1)");
-    db->Execute("Insert into Descontos (Codigo,Relativo,Absoluto) values (9,'10','0')");
-    db->Execute("Insert into Codigo_Acesso (Codigo_Acesso) values ('9')");
-    QCOMPARE(column(*db, "Select Descrição From Produtos Where Categoria='DIVERSOS' And Servico=True And Codigo=9"),
-             QStringList("BALA"));
-    QCOMPARE(column(*db, "Select Codigo From Produtos Where Descrição='bala'"), QStringList());
-    QCOMPARE(column(*db, "Select Relativo From Descontos Where Cdbl(Relativo)>Cdbl(Absoluto)"), QStringList("10"));
-    QCOMPARE(column(*db, "Select Vendido From Codigo_Acesso Where Codigo_Acesso='9'"), QStringList("False"));
 }
 
 void tst_cafe_content::thousandsOfRowsCanBeToldApart()
@@ -199,57 +152,6 @@ void tst_cafe_content::thousandsOfRowsCanBeToldApart()
     for (const QString &code : column(*db, "Select Cod From Produtos"))
         QVERIFY2(code.size() == 3, qPrintable(code));
     QVERIFY(column(*db, "Select Nome From Categoria").size() >= 8);
-}
-
-void tst_cafe_content::demoIsTheSameEachTime()
-{
-    QStringList first;
-    for (const char *name : {"once", "again"}) {
-        createCafe(m_place.filePath(name), {true, 40, 30, 60, false});
-        const DatabaseHandle db = openDataFile(m_place.filePath(name));
-        QStringList all = column(*db, "Select Documento From Clientes Order By Codigo");
-        all += column(*db, "Select Descrição From Venda_Produtos Order By Codigo");
-        all += column(*db, "Select Nome From Venda_Produtos Order By Codigo");
-        if (first.isEmpty())
-            first = all;
-        QCOMPARE(all, first);
-    }
-}
-
-void tst_cafe_content::discountRulesReachEveryKind()
-{
-    createCafe(m_place.filePath("rules"), {true, 0, 0, 0, false});
-    const DatabaseHandle db = openDataFile(m_place.filePath("rules"));
-    for (const char *kind :
-         {"Condicao='1'", "Condicao='2'", "Grupo='---'", "Grupo<>'---' And Categoria<>'-----'", "Fixo=True",
-          "Fixo=False", "Cdbl(Relativo)>0 And Cdbl(Absoluto)=0", "Cdbl(Absoluto)>0 And Cdbl(Relativo)=0",
-          "LiberarAuto=True And Cdbl(Absoluto)=0 And Cdbl(Relativo)=0", "TipoVenda='1' And AtoCadastro=True",
-          "TipoVenda='1' And AtoCadastro=False", "TipoVenda='2' And LiberarAuto=True", "LiberarAuto=False"})
-        QVERIFY2(!column(*db, QString("Select Codigo From Descontos Where ") + kind).isEmpty(), kind);
-    // Rules speak of groups and categories that there are.
-    QStringList known = column(*db, "Select Grupo From Grupo_Clientes") + column(*db, "Select Nome From Categoria");
-    known += {"---", "-----"};
-    for (const char *field : {"Grupo", "Categoria"}) {
-        for (const QString &name : column(*db, QString("Select %1 From Descontos").arg(field)))
-            QVERIFY2(known.contains(name), qPrintable(name));
-    }
-    const QString motive =
-        GetPrivateProfileString("Descontos", "Padrao", {}, 500, m_place.filePath("rules/config.ini"));
-    QVERIFY(column(*db, "Select Motivo_Desconto From Descontos").contains(motive));
-}
-
-void tst_cafe_content::soundIsAWave()
-{
-    const QByteArray wave = tillSound();
-    const auto number = [&](int at) { return qFromLittleEndian<quint32>(wave.constData() + at); };
-    QVERIFY(wave.startsWith("RIFF") && wave.mid(8, 8) == "WAVEfmt " && wave.mid(36, 4) == "data");
-    QCOMPARE(number(4), static_cast<quint32>(wave.size() - 8));
-    QCOMPARE(number(40), static_cast<quint32>(wave.size() - 44));
-    QVERIFY(wave.size() < 60 * 1024);
-    int loudest = 0;
-    for (int i = 44; i < wave.size(); i += 2)
-        loudest = std::max(loudest, std::abs(int{qFromLittleEndian<qint16>(wave.constData() + i)}));
-    QVERIFY(loudest > 8000 && loudest < 32767);
 }
 
 QTEST_GUILESS_MAIN(tst_cafe_content)

@@ -35,13 +35,6 @@ Answer tool(const QStringList &arguments, const QString &locale = "en_US.UTF-8")
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
 QByteArray read(const QString &path)
 {
     QFile file(path);
@@ -64,15 +57,9 @@ private slots:
 
     void demoReadsRightInItsRegion_data();
     void demoReadsRightInItsRegion();
-    void tillAndPermission();
-    void queryPrintsLinesOfValues();
-    void backupHoldsTheSame();
     void refuses_data();
     void refuses();
-    void findsDamage_data();
-    void findsDamage();
     void aKilledCreationLeavesNoFolder();
-    void helpsWithEachCommand();
 
 private:
     QString at(const QString &name) const { return m_place->filePath(name); }
@@ -127,63 +114,6 @@ void tst_cafe_tool::demoReadsRightInItsRegion()
     QCOMPARE(GetPrivateProfileString("SQL", "servidor", {}, 500, at("cafe/config.ini")), at("cafe/Morvelane.mdb"));
 }
 
-void tst_cafe_tool::tillAndPermission()
-{
-    // An empty folder of that name is as good as none.
-    QVERIFY(QDir().mkdir(at("cafe")));
-    QCOMPARE(tool({"create", at("cafe")}).code, 0);
-    QCOMPARE(tool({"check", at("cafe")}).err, QString());
-    QCOMPARE(single("Select Descrição,Servico From Produtos"), QString("TEMPO DE ACESSO|True"));
-    QCOMPARE(single("Select Count(*) From Clientes"), QString("0"));
-
-    const auto till = [&](const QString &action) {
-        const Answer answer = tool({"till", action, at("cafe")});
-        return QString("%1 %2").arg(answer.code).arg((answer.out + answer.err).trimmed());
-    };
-    QCOMPARE(till("status"), QString("0 There was no cash period yet."));
-    QCOMPARE(till("close"), QString("1 morvelane-cafe: no cash period is open"));
-    QCOMPARE(till("open"), QString("0 Cash period 1 is open."));
-    QCOMPARE(till("open"), QString("1 morvelane-cafe: cash period 1 is open already"));
-    QCOMPARE(till("close"), QString("0 Cash period 1 is closed."));
-    QCOMPARE(till("open"), QString("0 Cash period 2 is open."));
-    QCOMPARE(till("status"), QString("0 Cash period 2 is open."));
-
-    const QByteArray expected = read(at("cafe/config.ini"));
-    QByteArray blocked = expected;
-    blocked.replace("[Modulo Externo]\r\nAtivo=1", "[Modulo Externo]\r\nAtivo=0");
-    QVERIFY(expected.contains("Porta=4455\r\n"));
-    QCOMPARE(tool({"module", "block", at("cafe")}).code, 0);
-    QCOMPARE(read(at("cafe/config.ini")), blocked);
-    QCOMPARE(tool({"module", "allow", at("cafe")}).code, 0);
-    QCOMPARE(read(at("cafe/config.ini")), expected);
-}
-
-void tst_cafe_tool::queryPrintsLinesOfValues()
-{
-    QCOMPARE(tool({"create", at("cafe"), "--demo", "--customers", "2", "--products", "0"}).code, 0);
-    const Answer answer = tool({"query", at("cafe"), "Select Codigo, Cidade, MsgObs From Clientes Order By Codigo"});
-    QCOMPARE(answer.out, QString("Codigo\tCidade\tMsgObs\n1\tPOUSO VERDE\tFalse\n2\tPOUSO VERDE\tFalse\n"));
-    // A line end in a value comes as two characters, so that a row stays a line.
-    QCOMPARE(single("Select Nome From Empresa Where Nome <> 'a\tb\nc\\d'"), QString("CAFÉ MORVELANE"));
-    QCOMPARE(tool({"query", at("cafe"), "Select Max('a\tb\nc\\d') From Clientes"}).rows().value(0),
-             QStringList("a\\tb\\nc\\\\d"));
-}
-
-void tst_cafe_tool::backupHoldsTheSame()
-{
-    QCOMPARE(tool({"create", at("cafe"), "--demo", "--sales", "20"}).code, 0);
-    QCOMPARE(tool({"backup", at("cafe"), at("copy.mdb")}).code, 0);
-    QVERIFY(!read(at("copy.mdb")).contains("SQLite format"));
-    QCOMPARE(tool({"backup", at("cafe"), at("copy.mdb")}).code, 1);
-
-    const QString sales = "Select * From Venda_Produtos Order By Codigo";
-    const QString before = tool({"query", at("cafe"), sales}).out;
-    QVERIFY(QFile::remove(at("cafe/Morvelane.mdb")));
-    QVERIFY(QFile::rename(at("copy.mdb"), at("cafe/Morvelane.mdb")));
-    QCOMPARE(tool({"query", at("cafe"), sales}).out, before);
-    QCOMPARE(tool({"check", at("cafe")}).code, 0);
-}
-
 void tst_cafe_tool::refuses_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -193,27 +123,17 @@ void tst_cafe_tool::refuses_data()
         QTest::newRow(name) << arguments << code << word;
     };
     row("unknown command", 2, "no command", {"sell"});
-    row("unknown option", 2, "bogus", {"check", "--bogus", "@cafe"});
     row("argument missing", 2, "usage", {"create"});
-    row("argument too many", 2, "usage", {"check", "@cafe", "@cafe"});
     row("count without demo", 2, "--demo", {"create", "@new", "--customers", "5"});
-    row("count no number", 2, "\"many\"", {"create", "@new", "--demo", "--sales", "many"});
     row("negative count", 2, "\"-1\"", {"create", "@new", "--demo", "--sales=-1"});
-    row("sales of nothing", 1, "products", {"create", "@new", "--demo", "--sales", "5", "--products", "0"});
     row("more customers than names", 1, "at most", {"create", "@new", "--demo", "--customers", "2000000"});
     row("folder in use", 1, "not empty", {"create", "@cafe"});
-    row("name of a file", 1, "is a file", {"create", "@cafe/config.ini"});
     row("parent missing", 1, "no such folder", {"create", "@new/cafe"});
     row("till action", 2, "open, close", {"till", "burn", "@cafe"});
-    row("till of nothing", 1, "no such folder", {"till", "open", "@new"});
-    row("module action", 2, "allow or block", {"module", "maybe", "@cafe"});
-    row("module of nothing", 1, "no such folder", {"module", "allow", "@new"});
     row("writing query", 2, "read", {"query", "@cafe", "Delete From Clientes"});
     row("two statements", 1, "", {"query", "@cafe", "Select * From Clientes; Delete From Clientes"});
-    row("unknown table", 1, "Fornecedores", {"query", "@cafe", "Select * From Fornecedores"});
     row("check of nothing", 1, "no such folder", {"check", "@new"});
     row("backup over the live file", 1, "exists", {"backup", "@cafe", "@cafe/Morvelane.mdb"});
-    row("backup to nowhere", 1, "no such folder", {"backup", "@cafe", "@new/copy.mdb"});
 }
 
 void tst_cafe_tool::refuses()
@@ -239,47 +159,6 @@ void tst_cafe_tool::refuses()
     QCOMPARE(read(at("cafe/Morvelane.mdb")), dataFile);
 }
 
-void tst_cafe_tool::findsDamage_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QByteArray>("bytes"); // a null array removes the file
-    QTest::addColumn<QString>("fault");
-    QByteArray noise(4096, '\0');
-    for (qsizetype i = 0; i < noise.size(); ++i)
-        noise[i] = static_cast<char>(i * 37 % 251);
-    QTest::newRow("data file of noise") << "Morvelane.mdb" << noise << "Morvelane.mdb: ";
-    QTest::newRow("empty data file") << "Morvelane.mdb" << QByteArray("") << "Morvelane.mdb: ";
-    QTest::newRow("no data file") << "Morvelane.mdb" << QByteArray() << "no café";
-    QTest::newRow("configuration of noise") << "config.ini" << noise << "config.ini, line 1:";
-    QTest::newRow("no configuration") << "config.ini" << QByteArray() << "config.ini: is missing";
-    QTest::newRow("line of nothing") << "config.ini" << QByteArray("[Config_Regional]\nIdioma=Portugues.lng\nworm\n")
-                                     << "config.ini, line 3:";
-    QTest::newRow("no language") << "config.ini" << QByteArray("[Moeda]\nSimbolo=R$\n") << "names no language";
-    QTest::newRow("language not there") << "config.ini" << QByteArray("[Config_Regional]\nIdioma=Latim.lng\n")
-                                        << "Latim.lng: [frmvenda] String9 is missing";
-    QTest::newRow("language file gone") << "Languages/Portugues2.lng" << QByteArray()
-                                        << "[frmvenda] MsgBox7 is missing";
-    QTest::newRow("text without marks") << "Languages/Portugues1.lng" << QByteArray("[frmvenda]\nString9=Aviso\n")
-                                        << "String9 does not stand between";
-    QTest::newRow("receipt counter") << "inf.rcb" << QByteArray("[Recibo]\nID=abc\n") << "inf.rcb: ID is no number";
-}
-
-void tst_cafe_tool::findsDamage()
-{
-    QCOMPARE(tool({"create", at("cafe")}).code, 0);
-    QFETCH(QString, file);
-    QFETCH(QByteArray, bytes);
-    if (bytes.isNull())
-        QVERIFY(QFile::remove(at("cafe/" + file)));
-    else
-        write(at("cafe/" + file), bytes);
-
-    const Answer answer = tool({"check", at("cafe")});
-    QCOMPARE(answer.code, 1);
-    QFETCH(QString, fault);
-    QVERIFY2(answer.err.contains(fault), qPrintable(answer.err));
-}
-
 void tst_cafe_tool::aKilledCreationLeavesNoFolder()
 {
     QProcess process;
@@ -289,19 +168,6 @@ void tst_cafe_tool::aKilledCreationLeavesNoFolder()
     QVERIFY(process.waitForFinished());
     QVERIFY(!QFileInfo::exists(at("cafe")));
     QCOMPARE(tool({"create", at("cafe")}).code, 0);
-}
-
-void tst_cafe_tool::helpsWithEachCommand()
-{
-    const Answer overview = tool({"--help"});
-    QCOMPARE(overview.code, 0);
-    QCOMPARE(tool({}).code, 2);
-    for (const QString &command : QStringList{"create", "till", "module", "query", "check", "backup"}) {
-        QVERIFY(overview.out.contains("morvelane-cafe " + command));
-        const Answer help = tool({command, "--help"});
-        QCOMPARE(help.code, 0);
-        QVERIFY(help.out.startsWith("Usage: morvelane-cafe " + command));
-    }
 }
 
 QTEST_GUILESS_MAIN(tst_cafe_tool)

@@ -5,7 +5,6 @@
 #include "platform/window/Forms.h"
 #include "sale/frmvenda.h"
 
-#include <QClipboard>
 #include <QTest>
 
 QList<QStringList> table(const QStringList &rows)
@@ -60,13 +59,6 @@ void SaleCounter::enter(const QString &name, const QString &text)
     pressKey(at(name), Qt::Key_Return);
 }
 
-void SaleCounter::paste(const QString &name, const QString &text)
-{
-    QGuiApplication::clipboard()->setText(text);
-    type(name, {});
-    pressKey(at(name), Qt::Key_V, Qt::ControlModifier);
-}
-
 void SaleCounter::put(const QString &product, const QString &quantity)
 {
     enter("cmbprodutos", product);
@@ -94,10 +86,9 @@ void SaleCounter::expectTooMuch(const QString &quantity, const QString &product,
                            "Aviso");
 }
 
-void SaleCounter::expectQuestion(const QString &amount, int answer, const Attendant::Action &meanwhile)
+void SaleCounter::expectQuestion(const QString &amount, int answer)
 {
-    attendant.expect("Confirma a venda no valor de R$ " + amount + "?", vbYesNo + vbInformation, "Atenção", answer,
-                     meanwhile);
+    attendant.expect("Confirma a venda no valor de R$ " + amount + "?", vbYesNo + vbInformation, "Atenção", answer);
 }
 
 void SaleCounter::sell(const QString &paid, const QString &amount)

@@ -19,12 +19,10 @@ public:
     TestCafe cafe;
     Attendant attendant;
 
-    /// Adds a product, a customer, or a fixed, automatic rule for everybody and any total. `changes` are the fields
-    /// that differ, as an update writes them.
+    /// Adds a product, a customer, or a fixed, automatic rule for all; `changes` are the fields that differ.
     void add(const QString &table, const QString &changes);
     void change(const QString &table, const QString &changes) { cafe.execute("Update " + table + " Set " + changes); }
 
-    /// Opens the sale window, anew where it is open.
     void open();
     Form &window() { return loadedWindow("frmvenda"); }
     template <typename Control = QWidget>
@@ -32,26 +30,19 @@ public:
     {
         return control<Control>(window(), name);
     }
-    /// What a label, a box or a combo shows.
     QString shown(const QString &name);
-    bool ticked(const QString &name) { return at(name).property("checked").toBool(); }
     void press(const QString &name) { click(window(), name); }
     void type(const QString &name, const QString &text) { replaceText(at(name), text); }
     void enter(const QString &name, const QString &text);
-    /// Comes in from the clipboard, past what filters keys.
-    void paste(const QString &name, const QString &text);
     void put(const QString &product, const QString &quantity = "1");
     /// Lines of the cart as "description|quantity|value".
     QStringList cart();
 
-    /// The next box is the information box with the text of that key.
     void expectNotice(const QString &key);
     void expectTooMuch(const QString &quantity, const QString &product, const QString &stock);
-    /// The next box asks whether to sell at that amount to that buyer.
-    void expectQuestion(const QString &amount, int answer = vbYes, const Attendant::Action &meanwhile = {});
+    void expectQuestion(const QString &amount, int answer = vbYes);
     /// Pays with Enter in the box, which brings the question and the success.
     void sell(const QString &paid, const QString &amount = "10,00, paga por\nANA LIMA");
-    /// Fields of the lines sold so far, separated by "|".
     QStringList sold(const QString &fields);
     QString stock(const QString &description);
 };

@@ -49,11 +49,6 @@ void Attendant::expectOpenFile(const QString &filter, const QString &answer, con
     m_expected.append({{Box::OpenFile, filter, 0, {}}, vbOK, answer, meanwhile});
 }
 
-void Attendant::expectSaveFile(const QString &filter, const QString &answer, const Action &meanwhile)
-{
-    m_expected.append({{Box::SaveFile, filter, 0, {}}, vbOK, answer, meanwhile});
-}
-
 void Attendant::finish()
 {
     for (const Expected &missing : std::as_const(m_expected))
@@ -87,7 +82,6 @@ QString Attendant::chooseFile(Box::Kind kind, const FileDialog &dialog)
 
 std::optional<Attendant::Expected> Attendant::meet(const Box &box)
 {
-    m_boxes.append(box);
     if (m_expected.isEmpty()) {
         m_sink("Unexpected: " + describe(box));
         return std::nullopt;

@@ -4,7 +4,6 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QHeaderView>
 #include <QTest>
 
 namespace {
@@ -92,13 +91,6 @@ void pickEntry(QComboBox &combo, const QString &entry)
 
 void clickCell(FlexGrid &grid, int row, int col, Qt::KeyboardModifiers modifiers)
 {
-    if (row == 0) {
-        QHeaderView &headings = *grid.horizontalHeader();
-        const QPoint place(headings.sectionViewportPosition(col) + headings.sectionSize(col) / 2,
-                           headings.height() / 2);
-        QTest::mouseClick(headings.viewport(), Qt::LeftButton, modifiers, place);
-        return;
-    }
     const QModelIndex cell = grid.model()->index(row - 1, col);
     grid.scrollTo(cell);
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, modifiers, grid.visualRect(cell).center());

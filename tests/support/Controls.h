@@ -36,5 +36,5 @@ void scanBarcode(QWidget &control, const QString &digits);
 /// Drops the list down and takes an entry.
 void pickEntry(QComboBox &combo, const QString &entry);
 
-/// Clicks a cell; row 0 is the headings.
+/// Clicks a cell; rows count from 1.
 void clickCell(FlexGrid &grid, int row, int col, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

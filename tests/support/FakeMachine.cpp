@@ -13,8 +13,6 @@ FakeMachine::FakeMachine() : m_printoutFolder(m_folder.filePath("printouts")), m
     machine.sleep = [this](int milliseconds) {
         sleeps.append(milliseconds);
         clock = clock.addMSecs(milliseconds);
-        if (whileAsleep)
-            whileAsleep();
     };
     machine.playWave = [this](const QString &path) { sounds.append(path); };
     machine.portDevice = [this](int port) { return portDevices.value(port); };

@@ -5,8 +5,6 @@
 #include <QHash>
 #include <QTemporaryDir>
 
-#include <functional>
-
 /// A computer under a test's control, in force as long as it lives: its clock stands still but for the program's
 /// sleeps, and it has no printer, so that printouts become PDF files.
 class FakeMachine
@@ -18,8 +16,6 @@ public:
     FakeMachine &operator=(const FakeMachine &) = delete;
 
     QDateTime clock{QDate(2024, 3, 15), QTime(14, 30, 5)};
-    /// Runs at each sleep of the program.
-    std::function<void()> whileAsleep;
     QList<int> sleeps;
     QStringList sounds;
     QStringList openedDocuments;

@@ -14,156 +14,114 @@ class tst_iniprofile : public QObject
 
 private slots:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
-    void readsAsWindowsDoes();
-    void readsEachTimeAndCutsInCharacters();
-    void writes_data();
-    void writes();
-    void survivesNoise();
-    void keepsLinkAndPermissions();
-    void losesNothingWhenItCannotWrite();
+
+    void readsAsWindowsDoes()
+    {
+        const auto check = [&](const char *section, const char *key, const char *value) {
+            // The callers join folder and name as Windows does.
+            const QString joined = m_folder->path().replace(u'/', u'\\') + "\\\\config.ini";
+            QCOMPARE(GetPrivateProfileString(section, key, "fallback", 255, joined), value);
+        };
+        store("[Moeda]\r\nSimbolo=R$ \r\n;Ativo=comment\r\n  Ativo = 0;kept\r\nAtivo=second\r\nVazio=\r\nno key\r\n"
+              "[open\r\n[ Modulo Externo ] ; permission\r\nAtivo=\"1=1\"\r\n[moeda]\r\nOutra=later section\r\n"
+              "[Som]\rAtivo=1\n[Som]\nAtivo=a\rb",
+              "Config.INI");
+        check("Moeda", "Simbolo", "R$ ");
+        check("MOEDA", "ativo", " 0;kept");
+        check("Moeda", "Vazio", "");
+        check("moeda", "Outra", "fallback");
+        check("Modulo Externo", "Ativo", "\"1=1\"");
+        check("Som", "Ativo", "fallback");
+
+        store("[CONFIGURA\xC7\xC3O]\nDescri\xE7\xE3o=\x80 \x93\xC1gua\x94", "Config.INI");
+        check("Configuração", "descriÇÃO", "€ “Água”");
+        store("\xEF\xBB\xBF[CONFIGURAÇÃO]\nDescrição=€ Água 😀\nOutra=\xC1gua", "Config.INI");
+        check("Configuração", "descriÇÃO", "€ Água 😀");
+        check("Configuração", "Outra", "Água");
+    }
+
+    void readsEachTimeAndCutsInCharacters()
+    {
+        // Same size, written at the same moment: only the content tells.
+        for (const char *value : {"1", "0", "1"}) {
+            store(QByteArray("[a]\nk=") + value);
+            QCOMPARE(GetPrivateProfileString("a", "k", {}, 255, path()), value);
+        }
+        store(QByteArray("[a]\nk=") + QString(300, u'ç').toUtf8());
+        QCOMPARE(GetPrivateProfileString("a", "k", {}, 255, path()), QString(254, u'ç'));
+        QCOMPARE(GetPrivateProfileString("a", "k", "fallback", 255, path("gone/config.ini")), "fallback");
+    }
+
+    void writes()
+    {
+        const auto check = [&](const QByteArray &before, const char *value, const QByteArray &after) {
+            init();
+            if (!before.isNull())
+                store(before);
+            QVERIFY(WritePrivateProfileString("a", "k", value, path()));
+            QCOMPARE(stored(), after);
+            QVERIFY(WritePrivateProfileString("a", "k", GetPrivateProfileString("a", "k", {}, 255, path()), path()));
+            QCOMPARE(stored(), after);
+        };
+        check({}, "JOÃO", "[a]\r\nk=JO\xC3O\r\n");
+        check({}, "Ω", "[a]\r\nk=Ω\r\n");
+        check("[a]\n ;k=1\n K = 2\r\nk=3\n\n[A]\nk=4\n", "new", "[a]\n ;k=1\n K =new\r\nk=3\n\n[A]\nk=4\n");
+        check("[a]\r\nj=1\r\n; note\r\n\r\n[b]\r\n", "2", "[a]\r\nj=1\r\nk=2\r\n; note\r\n\r\n[b]\r\n");
+        check("[a]\r\nn=\xE7\r\nk=1", "ç Ω", "[a]\r\nn=\xE7\r\nk=\xE7 ?");
+        check("[a]\nn=ç\nk=1", "ç Ω", "[a]\nn=ç\nk=ç Ω");
+        check(QByteArray("\0\r\xFF\n[a]\r\r\nk=\0\n\r", 15), "1", QByteArray("\0\r\xFF\n[a]\r\r\nk=1\n\r", 15));
+    }
+
+    void survivesNoise()
+    {
+        QByteArray noise;
+        for (quint32 state = 1; noise.size() < 1'000'000; state = state * 1664525 + 1013904223)
+            noise.append(static_cast<char>(state >> 24));
+        for (const QByteArray &bytes : {noise, QByteArray(1'000'000, '['), QByteArray(1'000'000, '\0')}) {
+            store(bytes);
+            QCOMPARE(GetPrivateProfileString("Som", "Ativo", "fallback", 255, path()), "fallback");
+            QVERIFY(WritePrivateProfileString("Som", "Ativo", "0", path()));
+            QVERIFY(stored().startsWith(bytes));
+            QCOMPARE(GetPrivateProfileString("Som", "Ativo", "fallback", 255, path()), "0");
+        }
+    }
+
+    void losesNothingWhenItCannotWrite()
+    {
+        const QByteArray before = "[a]\nk=" + QByteArray(5000, 'x') + "\n";
+        store(before);
+        // A limit on file sizes stands for a full disk: root meets it, too.
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit usual{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
+        const rlimit tight{4096, usual.rlim_max};
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &tight), 0);
+        const bool written = WritePrivateProfileString("a", "n", "1", path());
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
+        QVERIFY(!written);
+        QCOMPARE(stored(), before);
+    }
 
 private:
     QString path(const QString &name = "config.ini") const { return m_folder->filePath(name); }
-    void store(const QByteArray &bytes, const QString &name = "config.ini") const;
-    QByteArray stored() const;
+
+    void store(const QByteArray &bytes, const QString &name = "config.ini") const
+    {
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), bytes.size());
+    }
+
+    /// The file's bytes, once it is sure that nothing else lies in its folder.
+    QByteArray stored() const
+    {
+        QFile file(path());
+        const bool alone = QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden) == QStringList("config.ini");
+        return alone && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing or not alone");
+    }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-void tst_iniprofile::store(const QByteArray &bytes, const QString &name) const
-{
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
-/// The file's bytes, once it is sure that nothing else lies in its folder.
-QByteArray tst_iniprofile::stored() const
-{
-    QFile file(path());
-    const bool alone = QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden) == QStringList("config.ini");
-    return alone && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing or not alone");
-}
-
-void tst_iniprofile::readsAsWindowsDoes()
-{
-    const auto check = [&](const char *section, const char *key, const char *value) {
-        // The callers join folder and name as Windows does.
-        const QString joined = m_folder->path().replace(u'/', u'\\') + "\\\\config.ini";
-        QCOMPARE(GetPrivateProfileString(section, key, "fallback", 255, joined), value);
-    };
-    store("[Moeda]\r\nSimbolo=R$ \r\n;Ativo=comment\r\n  Ativo = 0;kept\r\nAtivo=second\r\nVazio=\r\nno key\r\n"
-          "[open\r\n[ Modulo Externo ] ; permission\r\nAtivo=\"1=1\"\r\n[moeda]\r\nOutra=later section\r\n"
-          "[Som]\rAtivo=1\n[Som]\nAtivo=a\rb",
-          "Config.INI");
-    check("Moeda", "Simbolo", "R$ ");
-    check("MOEDA", "ativo", " 0;kept");
-    check("Moeda", "Vazio", "");
-    check("moeda", "Outra", "fallback");
-    check("Modulo Externo", "Ativo", "\"1=1\"");
-    check("Som", "Ativo", "fallback");
-
-    store("[CONFIGURA\xC7\xC3O]\nDescri\xE7\xE3o=\x80 \x93\xC1gua\x94", "Config.INI");
-    check("Configuração", "descriÇÃO", "€ “Água”");
-    store("\xEF\xBB\xBF[CONFIGURAÇÃO]\nDescrição=€ Água 😀\nOutra=\xC1gua", "Config.INI");
-    check("Configuração", "descriÇÃO", "€ Água 😀");
-    // A line that a program of Windows added.
-    check("Configuração", "Outra", "Água");
-}
-
-void tst_iniprofile::readsEachTimeAndCutsInCharacters()
-{
-    // Same size, written at the same moment: only the content tells.
-    for (const char *value : {"1", "0", "1"}) {
-        store(QByteArray("[a]\nk=") + value);
-        QCOMPARE(GetPrivateProfileString("a", "k", {}, 255, path()), value);
-    }
-    store(QByteArray("[a]\nk=") + QString(300, u'ç').toUtf8());
-    QCOMPARE(GetPrivateProfileString("a", "k", {}, 255, path()), QString(254, u'ç'));
-    QCOMPARE(GetPrivateProfileString("a", "k", "fallback", 255, path("gone/config.ini")), "fallback");
-    QCOMPARE(GetPrivateProfileString("a", "k", "fallback", 255, m_folder->path()), "fallback");
-}
-
-void tst_iniprofile::writes_data()
-{
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QByteArray>("after");
-
-    const auto row = [](const char *name, const QByteArray &before, const char *value, const QByteArray &after) {
-        QTest::newRow(name) << before << value << after;
-    };
-    row("new file", {}, "JOÃO", "[a]\r\nk=JO\xC3O\r\n");
-    row("beyond the code page", {}, "Ω", "[a]\r\nk=Ω\r\n");
-    row("bytes that would read as UTF-8", {}, "Ã©", "[a]\r\nk=Ã©\r\n");
-    row("replaces the first key only", "[a]\n ;k=1\n K = 2\r\nk=3\n\n[A]\nk=4\n", "new",
-        "[a]\n ;k=1\n K =new\r\nk=3\n\n[A]\nk=4\n");
-    row("behind the last key", "[a]\r\nj=1\r\n; note\r\n\r\n[b]\r\n", "2",
-        "[a]\r\nj=1\r\nk=2\r\n; note\r\n\r\n[b]\r\n");
-    row("section without keys", "[a]\n\n[b]\nk=1\n", "2", "[a]\nk=2\n\n[b]\nk=1\n");
-    row("no final line end", "[a]\nj=1", "2", "[a]\nj=1\nk=2\n");
-    row("new section, no final line end", "[b]", "2", "[b]\r\n[a]\r\nk=2\r\n");
-    row("stays Windows-1252", "[a]\r\nn=\xE7\r\nk=1", "ç Ω", "[a]\r\nn=\xE7\r\nk=\xE7 ?");
-    row("stays UTF-8", "[a]\nn=ç\nk=1", "ç Ω", "[a]\nn=ç\nk=ç Ω");
-    row("keeps its mark", "\xEF\xBB\xBF", "ç", "\xEF\xBB\xBF[a]\r\nk=ç\r\n");
-    row("other bytes stay", QByteArray("\0\r\xFF\n[a]\r\r\nk=\0\n\r", 15), "1",
-        QByteArray("\0\r\xFF\n[a]\r\r\nk=1\n\r", 15));
-}
-
-void tst_iniprofile::writes()
-{
-    QFETCH(QByteArray, before);
-    QFETCH(QString, value);
-    QFETCH(QByteArray, after);
-    if (!before.isNull())
-        store(before);
-    QVERIFY(WritePrivateProfileString("a", "k", value, path()));
-    QCOMPARE(stored(), after);
-    QVERIFY(WritePrivateProfileString("a", "k", GetPrivateProfileString("a", "k", {}, 255, path()), path()));
-    QCOMPARE(stored(), after);
-}
-
-void tst_iniprofile::survivesNoise()
-{
-    QByteArray noise;
-    for (quint32 state = 1; noise.size() < 1'000'000; state = state * 1664525 + 1013904223)
-        noise.append(static_cast<char>(state >> 24));
-    for (const QByteArray &bytes : {noise, QByteArray(1'000'000, '['), QByteArray(1'000'000, '\0')}) {
-        store(bytes);
-        QCOMPARE(GetPrivateProfileString("Som", "Ativo", "fallback", 255, path()), "fallback");
-        QVERIFY(WritePrivateProfileString("Som", "Ativo", "0", path()));
-        QVERIFY(stored().startsWith(bytes));
-        QCOMPARE(GetPrivateProfileString("Som", "Ativo", "fallback", 255, path()), "0");
-    }
-}
-
-void tst_iniprofile::keepsLinkAndPermissions()
-{
-    store("[a]\n");
-    const auto shared = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup;
-    QVERIFY(QFile::setPermissions(path(), shared) && QFile::link("config.ini", path("link")));
-    QVERIFY(WritePrivateProfileString("a", "k", "1", path("link")));
-    QVERIFY(QFileInfo(path("link")).isSymLink() && QFile::remove(path("link")));
-    QCOMPARE(stored(), "[a]\nk=1\n");
-    QCOMPARE(QFile::permissions(path()) & ~(QFile::ReadUser | QFile::WriteUser), shared);
-}
-
-void tst_iniprofile::losesNothingWhenItCannotWrite()
-{
-    const QByteArray before = "[a]\nk=" + QByteArray(5000, 'x') + "\n";
-    store(before);
-    // A limit on file sizes stands for a full disk: root meets it, too.
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit usual{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
-    const rlimit tight{4096, usual.rlim_max};
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &tight), 0);
-    const bool written = WritePrivateProfileString("a", "n", "1", path());
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
-    QVERIFY(!written);
-    QCOMPARE(stored(), before);
-    QVERIFY(!WritePrivateProfileString("a", "n", "1", path("gone/config.ini")));
-}
 
 QTEST_APPLESS_MAIN(tst_iniprofile)
 #include "tst_iniprofile.moc"

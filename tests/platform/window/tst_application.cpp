@@ -4,7 +4,6 @@
 #include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 
-#include <QLabel>
 #include <QPalette>
 #include <QProcess>
 #include <QTest>
@@ -22,14 +21,13 @@ public:
     {
         std::printf("%s|%d|%s\n", qPrintable(title), style, qPrintable(text));
         std::fflush(stdout);
-        QCoreApplication::processEvents();
         return vbOK;
     }
     QString openFile(const FileDialog &) override { return {}; }
     QString saveFile(const FileDialog &) override { return {}; }
 };
 
-/// The child of the test below: fails inside a routine that another one waits for, and once more under the message.
+/// The child of the test below: fails inside a routine that another one waits for.
 int failingProgram(int &argc, char **argv)
 {
     Application application(argc, argv);
@@ -37,7 +35,6 @@ int failingProgram(int &argc, char **argv)
     PromptService::use(&prompts);
     const auto fail = [] { throw RunTimeError(ErrorNumber::BadSql, "Syntax error"); };
     QTimer::singleShot(0, [&] {
-        QTimer::singleShot(0, fail);
         QTimer::singleShot(0, fail);
         for (int turn = 0; turn < 5; ++turn)
             DoEvents();
@@ -99,18 +96,6 @@ private slots:
                 QVERIFY2(contrast(palette.color(ink), palette.color(ground)) >= 4.5,
                          qPrintable(QString("%1 on %2, dark %3").arg(ink).arg(ground).arg(dark)));
         }
-    }
-
-    void warningComesAndGoes()
-    {
-        QLabel label;
-        label.setProperty("quiet", true);
-        label.ensurePolished();
-        QCOMPARE(label.foregroundRole(), QPalette::PlaceholderText);
-        setWarning(label, true);
-        QCOMPARE(label.foregroundRole(), QPalette::BrightText);
-        setWarning(label, false);
-        QCOMPARE(label.foregroundRole(), QPalette::PlaceholderText);
     }
 };
 
