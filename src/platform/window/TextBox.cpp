@@ -1,38 +1,116 @@
 #include "platform/window/TextBox.h"
 
 #include "platform/window/KeyCodes.h"
+#include "platform/window/TextLimit.h"
 
-#include <QFocusEvent>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QValidator>
 
+#include <algorithm>
 #include <utility>
 
-namespace {
-
-bool isInterruption(const QFocusEvent &event)
+/// The one gate through which all edits pass, from keys, menus, the mouse and input methods alike.
+class TextBox::Shaper : public QValidator
 {
-    return event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason;
-}
+public:
+    explicit Shaper(TextBox *box) : QValidator(box), m_box(box) {}
 
-} // namespace
+    State validate(QString &text, int &caret) const override
+    {
+        return m_box->admits({text, caret}) ? Acceptable : Invalid;
+    }
 
-TextBox::TextBox(QWidget *parent) : QLineEdit(parent)
+private:
+    TextBox *m_box;
+};
+
+TextBox::TextBox(QWidget *parent) : QLineEdit(parent), m_limit(QLineEdit::maxLength())
 {
-    connect(this, &QLineEdit::textChanged, this, &TextBox::Change);
+    setValidator(new Shaper(this));
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this](int, int caret) { m_before.caret = caret; });
+    connect(this, &QLineEdit::textChanged, this, [this](const QString &text) {
+        m_before.text = text;
+        emit Change();
+    });
 }
 
 void TextBox::setText(const QString &text)
 {
-    if (text == this->text())
+    m_wanted.reset();
+    const QString fitting = firstCodePoints(text, m_limit);
+    if (fitting == this->text())
         emit Change();
     else
-        QLineEdit::setText(text);
+        QLineEdit::setText(fitting);
+}
+
+void TextBox::setMaxLength(int limit)
+{
+    m_limit = limit;
+    if (codePoints(text()) > limit)
+        setText(text());
 }
 
 void TextBox::setCaretToEnd()
 {
     setFocus();
     end(false);
+}
+
+TextBox::State TextBox::shaped(const State &, const State &after) const
+{
+    State result = after;
+    if (const int excess = codePoints(after.text) - m_limit; excess > 0) {
+        const qsizetype units = codeUnitsBefore(after.text, after.caret, excess);
+        result.caret -= static_cast<int>(units);
+        result.text.remove(result.caret, units);
+    }
+    return result;
+}
+
+bool TextBox::admits(const State &after)
+{
+    // A text set by the program has no history, and one brought back by undo has a future.
+    if (m_settling || !isUndoAvailable() || isRedoAvailable())
+        return true;
+    const State wanted = shaped(m_before, after);
+    if (wanted == after)
+        return true;
+    // The edit is refused, so that text and selection stand as before, and carried out anew in its right shape: a
+    // correction made by a validator would cost the history of undo.
+    m_wanted = wanted;
+    QMetaObject::invokeMethod(this, &TextBox::settle, Qt::QueuedConnection);
+    return false;
+}
+
+void TextBox::settle()
+{
+    const std::optional<State> wanted = std::exchange(m_wanted, std::nullopt);
+    if (!wanted || *wanted == m_before)
+        return;
+    if (const QString old = text(); wanted->text != old) {
+        const QString &now = wanted->text;
+        const auto begin = std::mismatch(old.begin(), old.end(), now.begin(), now.end()).first - old.begin();
+        const auto common = std::min(old.size(), now.size()) - begin;
+        const auto tail =
+            std::mismatch(old.rbegin(), old.rbegin() + common, now.rbegin(), now.rbegin() + common).first -
+            old.rbegin();
+        const QScopedValueRollback settling(m_settling, true);
+        // A move of the caret begins a new step of undo.
+        end(false);
+        home(false);
+        setSelection(static_cast<int>(begin), static_cast<int>(old.size() - tail - begin));
+        insert(now.sliced(begin, now.size() - tail - begin));
+    }
+    setCursorPosition(wanted->caret);
+}
+
+bool TextBox::event(QEvent *event)
+{
+    const bool handled = QLineEdit::event(event);
+    settle();
+    return handled;
 }
 
 void TextBox::keyPressEvent(QKeyEvent *event)
@@ -50,23 +128,19 @@ void TextBox::inputMethodEvent(QInputMethodEvent *event)
 void TextBox::focusInEvent(QFocusEvent *event)
 {
     QLineEdit::focusInEvent(event);
-    if (std::exchange(m_interrupted, false) && isInterruption(*event))
-        return;
-    m_enteredByMouse = event->reason() == Qt::MouseFocusReason;
-    if (!m_enteredByMouse)
+    if (m_entry.focusIn(*event))
         emit GotFocus();
 }
 
 void TextBox::focusOutEvent(QFocusEvent *event)
 {
-    m_interrupted = isInterruption(*event);
-    m_enteredByMouse = false;
+    m_entry.focusOut(*event);
     QLineEdit::focusOutEvent(event);
 }
 
 void TextBox::mouseReleaseEvent(QMouseEvent *event)
 {
     QLineEdit::mouseReleaseEvent(event);
-    if (std::exchange(m_enteredByMouse, false))
+    if (m_entry.mouseRelease())
         emit GotFocus();
 }

@@ -1,17 +1,26 @@
 #pragma once
 
+#include "platform/window/FocusEntry.h"
+
 #include <QLineEdit>
+
+#include <optional>
 
 /// A text box that tells of each key before it becomes a character. What is pasted comes in as it is.
 class TextBox : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength)
 
 public:
     explicit TextBox(QWidget *parent = nullptr);
 
     /// Fires `Change`, even where the text stays the same.
     void setText(const QString &text);
+
+    /// The limit counts characters, not their code units, so that 50 emoji fit where 50 letters do.
+    int maxLength() const { return m_limit; }
+    void setMaxLength(int limit);
 
     /// Puts the keyboard focus here with the caret behind the last character.
     void setCaretToEnd();
@@ -27,6 +36,18 @@ signals:
     void GotFocus();
 
 protected:
+    struct State
+    {
+        QString text;
+        int caret = 0;
+        bool operator==(const State &) const = default;
+    };
+
+    /// What becomes of an edit of the attendant's that would lead from one state to another: typed, pasted, dropped,
+    /// composed or deleted.
+    virtual State shaped(const State &before, const State &after) const;
+
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -34,6 +55,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    bool m_interrupted = false;
-    bool m_enteredByMouse = false;
+    class Shaper;
+    bool admits(const State &after);
+    void settle();
+
+    int m_limit;
+    State m_before;
+    std::optional<State> m_wanted;
+    bool m_settling = false;
+    FocusEntry m_entry;
 };
