@@ -49,6 +49,11 @@ void Attendant::expectOpenFile(const QString &filter, const QString &answer, con
     m_expected.append({{Box::OpenFile, filter, 0, {}}, vbOK, answer, meanwhile});
 }
 
+void Attendant::expectSaveFile(const QString &filter, const QString &answer, const Action &meanwhile)
+{
+    m_expected.append({{Box::SaveFile, filter, 0, {}}, vbOK, answer, meanwhile});
+}
+
 void Attendant::finish()
 {
     for (const Expected &missing : std::as_const(m_expected))

@@ -40,6 +40,7 @@ public:
     void expectNotice(const QString &text, const QString &title = {}, const Action &meanwhile = {});
     /// The next file dialog and the file chosen; an empty one cancels it.
     void expectOpenFile(const QString &filter, const QString &answer, const Action &meanwhile = {});
+    void expectSaveFile(const QString &filter, const QString &answer, const Action &meanwhile = {});
 
     /// States that all expected boxes came, and expects nothing more. The end of an attendant does it too.
     void finish();

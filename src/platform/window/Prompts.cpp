@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 
 namespace {
@@ -102,6 +103,7 @@ private:
         joinBand(dialog);
         dialog.setAcceptMode(accept);
         dialog.setFileMode(file);
+        dialog.setOption(QFileDialog::DontConfirmOverwrite);
         dialog.setNameFilters(nameFilters(wanted.Filter));
         if (!wanted.FileName.isEmpty())
             dialog.selectFile(resolveIgnoringCase(wanted.FileName));
@@ -130,6 +132,8 @@ void FileDialog::ShowSave()
 {
     const EventPump pump;
     FileName = PromptService::current().saveFile(*this);
+    if (!FileName.isEmpty() && QFileInfo(FileName).suffix().isEmpty())
+        FileName += DefaultExt;
 }
 
 PromptService &PromptService::current()

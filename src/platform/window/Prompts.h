@@ -31,9 +31,12 @@ struct FileDialog
     QString Filter;
     QString FileName;
     QString DialogTitle;
+    /// Such as ".txt": what a file to be saved gets when its name has no extension.
+    QString DefaultExt;
 
     /// Sets FileName to the chosen file, or to the empty text when there is none.
     void ShowOpen();
+    /// The same. Whether a file may be overwritten is for the caller to ask.
     void ShowSave();
 };
 
