@@ -1,0 +1,8 @@
+#pragma once
+
+class FlexGrid;
+
+// The list of customers on paper and in a file, in the grid's order and with its texts.
+
+void imprimirClientes(const FlexGrid &tab_clientes, int TotalClientes);
+void salvarClientes(const FlexGrid &tab_clientes, int TotalClientes);

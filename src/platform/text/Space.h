@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// So many blanks; raises InvalidProcedureCall for a negative length.
+QString Space(qsizetype length);
