@@ -2,11 +2,9 @@
 
 #include "platform/files/IniText.h"
 #include "platform/files/Paths.h"
+#include "platform/files/SafeFile.h"
 
 #include <QFile>
-#include <QSaveFile>
-
-#include <unistd.h>
 
 namespace {
 /// Empty when the file is there and cannot be read to its end; a missing file is an empty one.
@@ -44,6 +42,5 @@ bool WritePrivateProfileString(const QString &section, const QString &key, const
     if (!replacement.open(QIODevice::WriteOnly))
         return false;
     replacement.write(ini->bytes());
-    // Qt's commit minds neither a disk that is full at its last flush nor one that fails to take the bytes for good.
-    return replacement.flush() && fsync(replacement.handle()) == 0 && replacement.commit();
+    return commitForGood(replacement);
 }

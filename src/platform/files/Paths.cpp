@@ -1,6 +1,7 @@
 #include "platform/files/Paths.h"
 
 #include "platform/base/Err.h"
+#include "platform/files/SafeFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -92,6 +93,20 @@ void Kill(const QString &path)
     QFile file(existingFile(path));
     if (!file.remove())
         throw RunTimeError(ErrorNumber::PathAccess, file.errorString() + ": " + path);
+}
+
+void FileCopy(const QString &from, const QString &to)
+{
+    constexpr qint64 blockSize = 1 << 16;
+    QFile source(existingFile(from));
+    QSaveFile target(resolveIgnoringCase(to));
+    bool copied = source.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly);
+    while (copied && !source.atEnd()) {
+        const QByteArray block = source.read(blockSize);
+        copied = !block.isEmpty() && target.write(block) == block.size();
+    }
+    if (!copied || !commitForGood(target))
+        throw RunTimeError(ErrorNumber::PathAccess, "Cannot copy " + from + " to " + to);
 }
 
 void renameFile(const QString &from, const QString &to)

@@ -2,6 +2,7 @@
 
 #include "platform/window/KeyCodes.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
@@ -27,8 +28,22 @@ void ComboBox::setEditable(bool editable)
     }
 }
 
+void ComboBox::showPopup()
+{
+    view()->installEventFilter(this);
+    QComboBox::showPopup();
+}
+
 bool ComboBox::eventFilter(QObject *watched, QEvent *event)
 {
+    // The open list looks for what is typed, too; its other keys stay its own.
+    if (watched != lineEdit() && event->type() == QEvent::KeyPress) {
+        int code = keyAscii(*static_cast<QKeyEvent *>(event));
+        if (code >= ' ') {
+            emit KeyPress(code);
+            return code == 0;
+        }
+    }
     if (watched == lineEdit() && event->type() == QEvent::KeyPress) {
         keyPressEvent(static_cast<QKeyEvent *>(event));
         return true;

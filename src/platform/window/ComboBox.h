@@ -12,6 +12,7 @@ public:
     explicit ComboBox(QWidget *parent = nullptr);
 
     void setEditable(bool editable);
+    void showPopup() override;
 
 signals:
     /// The attendant picked an entry, by mouse, keyboard or wheel.

@@ -4,6 +4,7 @@
 #include "platform/files/Paths.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
@@ -11,18 +12,34 @@
 #include <QSvgRenderer>
 
 namespace {
-/// A photo of 64 megapixels; a damaged file must not ask for more.
+/// What a damaged file may ask for at most.
 constexpr int largestPictureMegabytes = 256;
+/// Sides of the largest picture that a screen has use for; anything larger is loaded smaller.
+constexpr QSize largestSize(2560, 2560);
+/// Beyond this even reading a picture smaller takes too much memory and time; the largest cameras have 100 megapixels.
+constexpr qint64 mostPixels = 120'000'000;
+
+void loadSmaller(QImageReader &reader)
+{
+    const QSize size = reader.size();
+    if (size.width() > largestSize.width() || size.height() > largestSize.height())
+        reader.setScaledSize(size.scaled(largestSize, Qt::KeepAspectRatio).expandedTo({1, 1}));
+}
 } // namespace
 
 QPixmap LoadPicture(const QString &path)
 {
     QImageReader::setAllocationLimit(largestPictureMegabytes);
-    QImageReader reader(resolveIgnoringCase(path));
+    const QFileInfo file(resolveIgnoringCase(path));
+    QImageReader reader(file.filePath());
     reader.setAutoTransform(true);
     // A file may bear another format's ending.
     reader.setDecideFormatFromContent(true);
-    const QImage image = reader.read();
+    // A pipe or a device would never end.
+    if (file.isFile())
+        loadSmaller(reader);
+    const bool sensible = file.isFile() && qint64(reader.size().width()) * reader.size().height() <= mostPixels;
+    const QImage image = sensible ? reader.read() : QImage();
     if (image.isNull())
         throw RunTimeError(ErrorNumber::InvalidPicture, "Invalid picture: " + path);
     return QPixmap::fromImage(image);

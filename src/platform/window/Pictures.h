@@ -3,7 +3,7 @@
 #include <QPixmap>
 #include <QString>
 
-/// A picture file. Raises InvalidPicture for a file that is none.
+/// A picture file, in no larger size than a screen has use for. Raises InvalidPicture for a file that is none.
 QPixmap LoadPicture(const QString &path);
 
 /// One of the program's own pictures, drawn sharp for the screen's scale and in the text colour of the desktop.

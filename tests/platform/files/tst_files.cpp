@@ -2,6 +2,7 @@
 #include "platform/base/Machine.h"
 #include "platform/files/Paths.h"
 #include "platform/files/TextOutput.h"
+#include "tests/support/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
@@ -52,6 +53,32 @@ private slots:
         for (const char *refused : {"Café/CONFIG.ini", "gone/Maria.jpg"})
             QCOMPARE(failure([&] { renameFile("Café/Maria.jpg", refused); }), ErrorNumber::PathAccess);
         QCOMPARE(QDir("Café").entryList(QDir::Files, QDir::Name), QStringList({"Config.INI", "Maria.jpg"}));
+    }
+
+    void copiesWholeOrNotAtAll()
+    {
+        const QByteArray photo(200'000, 'p');
+        const auto content = [](const QString &name) {
+            QFile file(name);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
+        };
+        QFile source("Temp.jpg");
+        QVERIFY(source.open(QIODevice::WriteOnly) && source.write("old") == 3);
+        source.close();
+        FileCopy("TEMP.JPG", "CAFÉ\\FOTOS\\joão.JPG");
+        QCOMPARE(content("Café/fotos/JOÃO.jpg"), "old");
+        QVERIFY(source.open(QIODevice::WriteOnly) && source.write(photo) == photo.size());
+        source.close();
+        {
+            const FullDisk full;
+            QCOMPARE(failure([] { FileCopy("Temp.jpg", "Café/fotos/JOÃO.jpg"); }), ErrorNumber::PathAccess);
+        }
+        QCOMPARE(content("Café/fotos/JOÃO.jpg"), "old");
+        FileCopy("Temp.jpg", "Café/fotos/JOÃO.jpg");
+        QCOMPARE(content("Café/fotos/JOÃO.jpg"), photo);
+        QCOMPARE(QDir("Café/fotos").entryList(QDir::Files | QDir::Hidden), QStringList("JOÃO.jpg"));
+        QCOMPARE(failure([] { FileCopy("gone.jpg", "x.jpg"); }), ErrorNumber::FileNotFound);
+        QCOMPARE(failure([] { FileCopy("Temp.jpg", "gone/x.jpg"); }), ErrorNumber::PathAccess);
     }
 
     void writesFilesAndPorts()

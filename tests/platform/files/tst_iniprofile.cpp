@@ -1,12 +1,10 @@
 #include "platform/files/IniProfile.h"
+#include "tests/support/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <csignal>
-#include <sys/resource.h>
 
 class tst_iniprofile : public QObject
 {
@@ -90,15 +88,10 @@ private slots:
     {
         const QByteArray before = "[a]\nk=" + QByteArray(5000, 'x') + "\n";
         store(before);
-        // A limit on file sizes stands for a full disk: root meets it, too.
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit usual{};
-        QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
-        const rlimit tight{4096, usual.rlim_max};
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &tight), 0);
-        const bool written = WritePrivateProfileString("a", "n", "1", path());
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
-        QVERIFY(!written);
+        {
+            const FullDisk full;
+            QVERIFY(!WritePrivateProfileString("a", "n", "1", path()));
+        }
         QCOMPARE(stored(), before);
     }
 

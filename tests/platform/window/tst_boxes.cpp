@@ -2,6 +2,7 @@
 #include "platform/window/Label.h"
 #include "platform/window/TextBox.h"
 
+#include <QAbstractItemView>
 #include <QInputMethodEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -87,6 +88,21 @@ private slots:
             QCOMPARE(m_combo->currentText(), "CAFE");
             QCOMPARE(clicks.size(), 1);
         }
+    }
+
+    void comboMayDiscardWhatIsTyped()
+    {
+        connect(m_combo, &ComboBox::KeyPress, this, [](int &code) { code = code == 13 ? 13 : 0; });
+        connect(m_combo, &ComboBox::KeyDown, this, [](int &code) { code = code == 8 || code == 46 ? 0 : code; });
+        m_combo->setFocus();
+        QTest::keyClicks(m_combo, "c b");
+        for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_Delete})
+            QTest::keyClick(m_combo, key);
+        QCOMPARE(m_combo->currentText(), "AGUA");
+        m_combo->showPopup();
+        QTest::keyClicks(m_combo->view(), "c");
+        QTest::keyClick(m_combo->view(), Qt::Key_Return);
+        QCOMPARE(m_combo->currentText(), "AGUA");
     }
 
 private:
