@@ -1,5 +1,7 @@
 #include "tests/support/FakeMachine.h"
 
+#include "tests/support/FakeCamera.h"
+
 #include <QDir>
 #include <QFile>
 #include <QtGlobal>
@@ -18,6 +20,7 @@ FakeMachine::FakeMachine() : m_printoutFolder(m_folder.filePath("printouts")), m
     machine.portDevice = [this](int port) { return portDevices.value(port); };
     machine.printerNames = [this] { return printerNames; };
     machine.defaultPrinterName = [this] { return defaultPrinter; };
+    machine.camera = [this] { return camera; };
     machine.printoutFolder = [this] { return m_printoutFolder; };
     machine.openDocument = [this](const QString &path) { openedDocuments.append(path); };
 }
@@ -25,6 +28,12 @@ FakeMachine::FakeMachine() : m_printoutFolder(m_folder.filePath("printouts")), m
 FakeMachine::~FakeMachine()
 {
     Machine::current() = m_saved;
+}
+
+FakeCamera &FakeMachine::installCamera()
+{
+    camera = std::make_shared<FakeCamera>();
+    return *camera;
 }
 
 QString FakeMachine::installPort(int port)

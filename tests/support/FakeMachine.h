@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QTemporaryDir>
 
+class FakeCamera;
+
 /// A computer under a test's control, in force as long as it lives: its clock stands still but for the program's
 /// sleeps, and it has no printer, so that printouts become PDF files.
 class FakeMachine
@@ -22,7 +24,10 @@ public:
     QHash<int, QString> portDevices;
     QStringList printerNames;
     QString defaultPrinter;
+    /// None, unless one is installed.
+    std::shared_ptr<FakeCamera> camera;
 
+    FakeCamera &installCamera();
     /// A new, empty file that stands for the device of a printer port.
     QString installPort(int port);
     /// Files in the folder for printouts, in the order of their names.

@@ -46,7 +46,7 @@ QString documentsSubfolder()
 }
 } // namespace
 
-// Printers are a matter of Qt's printing library: the application names them at its start.
+// Printers and cameras are a matter of Qt's larger libraries: the application names them at its start.
 Machine::Machine()
     : programFolder(QCoreApplication::applicationDirPath)
     , now(QDateTime::currentDateTime)
@@ -56,6 +56,7 @@ Machine::Machine()
     , printerNames([] { return QStringList(); })
     , defaultPrinterName([] { return QString(); })
     , printoutFolder(documentsSubfolder)
+    , camera([] { return nullptr; })
     , openDocument([](const QString &path) { startDetached("xdg-open", path); })
 {
 }

@@ -2,6 +2,7 @@
 
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
+#include "platform/media/CameraModule.h"
 #include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 
@@ -28,6 +29,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     // Asked when a window needs them: looking for printers may wait for the network.
     Machine::current().printerNames = [] { return QPrinterInfo::availablePrinterNames(); };
     Machine::current().defaultPrinterName = [] { return QPrinterInfo::defaultPrinterName(); };
+    Machine::current().camera = loadFirstCamera;
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)

@@ -284,6 +284,8 @@ QIcon LookStyle::standardIcon(StandardPixmap icon, const QStyleOption *option, c
         return signIcon('?', accent);
     case SP_MessageBoxInformation:
         return signIcon('i', accent);
+    case SP_MessageBoxWarning:
+        return signIcon('!', QColor::fromRgb(0x9c5b00));
     case SP_MessageBoxCritical:
         return signIcon('!', QColor::fromRgb(0xb3261e));
     default:

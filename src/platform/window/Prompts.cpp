@@ -32,6 +32,8 @@ QMessageBox::Icon iconOf(int style)
         return QMessageBox::Critical;
     case vbQuestion:
         return QMessageBox::Question;
+    case vbExclamation:
+        return QMessageBox::Warning;
     case vbInformation:
         return QMessageBox::Information;
     default:

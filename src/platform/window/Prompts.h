@@ -9,6 +9,7 @@ enum MsgBoxStyle
     vbYesNo = 4,
     vbCritical = 16,
     vbQuestion = 32,
+    vbExclamation = 48,
     vbInformation = 64,
 };
 
