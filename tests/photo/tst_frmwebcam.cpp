@@ -63,12 +63,10 @@ private slots:
             if (installed)
                 m_machine->installCamera().works = false;
             Attendant attendant;
-            PromptService::use(&attendant);
             attendant.expectNotice("Não foi possível usar a câmera. Verifique se ela está ligada.", "Aviso");
             frmwebcam &window = Forms::use<frmwebcam>();
             window.Show();
             QVERIFY(!window.isVisible() && Forms::loaded().isEmpty());
-            PromptService::use(nullptr);
         }
     }
 

@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStyleOption>
 
@@ -15,7 +16,9 @@
 namespace {
 
 constexpr qreal radius = 5;
+constexpr qreal listRadius = 3;
 constexpr qreal cardRadius = 8;
+constexpr int memoMargin = 5;
 constexpr int cardMargin = 15;
 constexpr int titleDrop = 5;
 constexpr qreal totalScale = 1.7;
@@ -180,6 +183,11 @@ void LookStyle::polish(QWidget *widget)
     // Its frame shows the focus, which repaints the viewport alone.
     if (qobject_cast<QAbstractScrollArea *>(widget))
         widget->installEventFilter(this);
+    if (auto *memo = qobject_cast<QPlainTextEdit *>(widget)) {
+        // As round as a line of text, and its words begin where a line's do.
+        memo->viewport()->setAutoFillBackground(false);
+        memo->document()->setDocumentMargin(memoMargin);
+    }
     if (qobject_cast<QComboBox *>(widget))
         widget->setAttribute(Qt::WA_Hover);
 }
@@ -310,7 +318,8 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
         return;
     case PE_Frame:
         if (qobject_cast<const QAbstractScrollArea *>(widget)) {
-            drawField(painter, option, option->palette.color(QPalette::Base), 3);
+            drawField(painter, option, option->palette.color(QPalette::Base),
+                      qobject_cast<const QPlainTextEdit *>(widget) ? radius : listRadius);
             return;
         }
         break;
