@@ -38,6 +38,7 @@ TextBox::TextBox(QWidget *parent) : QLineEdit(parent), m_limit(QLineEdit::maxLen
 void TextBox::setText(const QString &text)
 {
     m_wanted.reset();
+    m_reshaped = false;
     const QString fitting = firstCodePoints(text, m_limit);
     if (fitting == this->text())
         emit Change();
@@ -71,8 +72,15 @@ TextBox::State TextBox::shaped(const State &, const State &after) const
 
 bool TextBox::admits(const State &after)
 {
-    // A text set by the program has no history, and one brought back by undo has a future.
-    if (m_settling || !isUndoAvailable() || isRedoAvailable())
+    if (m_settling)
+        return true;
+    // A text brought back by undo has a future, and one set by the program has no history.
+    if (isRedoAvailable()) {
+        m_undone = m_reshaped;
+        settleSoon();
+        return true;
+    }
+    if (!isUndoAvailable())
         return true;
     const State wanted = shaped(m_before, after);
     if (wanted == after)
@@ -80,12 +88,21 @@ bool TextBox::admits(const State &after)
     // The edit is refused, so that text and selection stand as before, and carried out anew in its right shape: a
     // correction made by a validator would cost the history of undo.
     m_wanted = wanted;
-    QMetaObject::invokeMethod(this, &TextBox::settle, Qt::QueuedConnection);
+    settleSoon();
     return false;
+}
+
+/// A key is settled by the end of its event; what a menu does has no event of ours.
+void TextBox::settleSoon()
+{
+    QMetaObject::invokeMethod(this, &TextBox::settle, Qt::QueuedConnection);
 }
 
 void TextBox::settle()
 {
+    // What undo brings back of an edit carried out anew is selected, and the next key would replace it.
+    if (std::exchange(m_undone, false))
+        deselect();
     const std::optional<State> wanted = std::exchange(m_wanted, std::nullopt);
     if (!wanted || *wanted == m_before)
         return;
@@ -97,6 +114,7 @@ void TextBox::settle()
             std::mismatch(old.rbegin(), old.rbegin() + common, now.rbegin(), now.rbegin() + common).first -
             old.rbegin();
         const QScopedValueRollback settling(m_settling, true);
+        m_reshaped = true;
         // A move of the caret begins a new step of undo.
         end(false);
         home(false);

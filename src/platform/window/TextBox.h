@@ -57,11 +57,14 @@ protected:
 private:
     class Shaper;
     bool admits(const State &after);
+    void settleSoon();
     void settle();
 
     int m_limit;
     State m_before;
     std::optional<State> m_wanted;
     bool m_settling = false;
+    bool m_reshaped = false;
+    bool m_undone = false;
     FocusEntry m_entry;
 };

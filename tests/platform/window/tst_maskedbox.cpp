@@ -138,6 +138,9 @@ private slots:
         QTest::newRow("undo one step") << date << none << "31bu"
                                        << ""
                                        << "31/  /    " << 2;
+        QTest::newRow("type after undo") << date << none << "31bu12"
+                                         << ""
+                                         << "31/12/    " << 5;
         QTest::newRow("undo a paste and redo") << date << full << "avuur"
                                                << "01022003"
                                                << "01/02/2003" << 10;
