@@ -1,7 +1,6 @@
 #include "platform/base/Err.h"
 #include "platform/window/Pictures.h"
 
-#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
@@ -22,15 +21,6 @@ private slots:
         store("huge.gif", "GIF89a\x10\x27\x10\x27\x91\x01" + QByteArray(3, '\0'));
         for (const char *name : {"empty.jpg", "words.jpg", "huge.gif", "missing.jpg", "."})
             QVERIFY_EXCEPTION_THROWN(LoadPicture(path(name)), RunTimeError);
-    }
-
-    void findsPicturesInAnyCase()
-    {
-        QImage picture(3, 2, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        QVERIFY(QDir(m_folder.path()).mkpath("Fotos") && picture.save(path("Fotos/7.png")));
-        QVERIFY(QFile::rename(path("Fotos/7.png"), path("Fotos/7.jpg")));
-        QCOMPARE(LoadPicture(path("FOTOS\\7.JPG")).size(), QSize(3, 2));
     }
 
     void loadsHugePicturesSmaller()
