@@ -20,7 +20,7 @@ private slots:
         // Ten thousand pixels a side, and nothing behind.
         store("huge.gif", "GIF89a\x10\x27\x10\x27\x91\x01" + QByteArray(3, '\0'));
         for (const char *name : {"empty.jpg", "words.jpg", "huge.gif", "missing.jpg", "."})
-            QVERIFY_EXCEPTION_THROWN(LoadPicture(path(name)), RunTimeError);
+            QVERIFY_THROWS_EXCEPTION(RunTimeError, LoadPicture(path(name)));
     }
 
     void loadsHugePicturesSmaller()
