@@ -27,6 +27,13 @@ private slots:
         QGuiApplication::clipboard()->clear();
     }
 
+    // Before the next ones begin, as each gives back the computer that it found.
+    void cleanup()
+    {
+        m_cafe.reset();
+        m_machine.reset();
+    }
+
     void theLastFrameIsStored()
     {
         FakeCamera &camera = m_machine->installCamera();

@@ -42,6 +42,8 @@ private slots:
         m_folder = std::make_unique<QTemporaryDir>();
     }
 
+    void cleanup() { m_machine.reset(); }
+
     void sectionLiesBottomUp()
     {
         QImage image(3, 2, QImage::Format_RGB32);

@@ -1,8 +1,27 @@
 #include "platform/media/FirstCamera.h"
 
+#include <QCamera>
 #include <QCameraDevice>
+#include <QMediaCaptureSession>
 #include <QMediaDevices>
 #include <QVideoFrame>
+#include <QVideoSink>
+
+struct FirstCamera::Line
+{
+    explicit Line(const QCameraDevice &device) : camera(device)
+    {
+        session.setCamera(&camera);
+        session.setVideoSink(&sink);
+    }
+
+    QVideoSink sink;
+    QCamera camera;
+    QMediaCaptureSession session;
+};
+
+FirstCamera::FirstCamera() = default;
+FirstCamera::~FirstCamera() = default;
 
 bool FirstCamera::open()
 {
@@ -10,32 +29,28 @@ bool FirstCamera::open()
     const QList<QCameraDevice> cameras = QMediaDevices::videoInputs();
     if (cameras.isEmpty())
         return false;
-    m_camera = std::make_unique<QCamera>(cameras.first());
-    m_session.setCamera(m_camera.get());
-    m_session.setVideoSink(&m_sink);
-    m_camera->start();
-    return m_camera->isActive() && m_camera->error() == QCamera::NoError;
+    m_line = std::make_unique<Line>(cameras.first());
+    m_line->camera.start();
+    return m_line->camera.isActive() && m_line->camera.error() == QCamera::NoError;
 }
 
 void FirstCamera::startPreview(int milliseconds, const Preview &show)
 {
     m_milliseconds = milliseconds;
     m_show = show;
-    m_frames = QObject::connect(&m_sink, &QVideoSink::videoFrameChanged, &m_sink,
-                                [this](const QVideoFrame &frame) { take(frame); });
+    QVideoSink &sink = m_line->sink;
+    QObject::connect(&sink, &QVideoSink::videoFrameChanged, &sink, [this](const QVideoFrame &frame) { take(frame); });
 }
 
 void FirstCamera::close()
 {
-    QObject::disconnect(m_frames);
-    m_session.setCamera(nullptr);
-    m_camera.reset();
+    m_line.reset();
 }
 
 void FirstCamera::take(const QVideoFrame &frame)
 {
     const bool soon = m_sinceFrame.isValid() && m_sinceFrame.elapsed() < m_milliseconds;
-    if (soon || !m_camera->isActive())
+    if (soon || !m_line->camera.isActive())
         return;
     // Not every frame can be read: a camera may lose its cable between two of them.
     QImage image = frame.toImage();

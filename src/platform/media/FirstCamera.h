@@ -2,15 +2,17 @@
 
 #include "platform/media/CameraModule.h"
 
-#include <QCamera>
 #include <QElapsedTimer>
-#include <QMediaCaptureSession>
-#include <QVideoSink>
+
+class QVideoFrame;
 
 /// The first camera of the computer.
 class FirstCamera : public CaptureSource
 {
 public:
+    FirstCamera();
+    ~FirstCamera() override;
+
     bool open() override;
     void startPreview(int milliseconds, const Preview &show) override;
     QImage copyFrame() const override { return m_frame; }
@@ -19,10 +21,10 @@ public:
 private:
     void take(const QVideoFrame &frame);
 
-    QMediaCaptureSession m_session;
-    QVideoSink m_sink;
-    std::unique_ptr<QCamera> m_camera;
-    QMetaObject::Connection m_frames;
+    struct Line;
+
+    /// Laid only to a camera that is there: making its parts wakes the whole media system.
+    std::unique_ptr<Line> m_line;
     Preview m_show;
     int m_milliseconds = 0;
     QElapsedTimer m_sinceFrame;
