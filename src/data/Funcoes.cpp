@@ -3,7 +3,7 @@
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
-#include "data/Acesso_BD.h"
+#include "data/FirstRow.h"
 #include "data/Placeholders.h"
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
@@ -11,6 +11,7 @@
 #include "platform/print/Printer.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Forms.h"
+#include "platform/window/KeyCodes.h"
 
 #include <algorithm>
 
@@ -19,18 +20,6 @@ double IdCaixa = 0;
 namespace {
 int keptPageWidth = 0;
 int keptPageHeight = 0;
-
-/// Runs a query on the main handle and reads its first row, if there is one, with errors ignored.
-template <typename Read>
-void readFirstRow(const QString &sql, Read read)
-{
-    RecordsetHandle rs;
-    Abrir_Banco_Principal();
-    Abrir_Recordset(rs, BancoPrincipal, sql);
-    if (rs && !rs->Eof())
-        OnErrorResumeNext([&] { read(*rs); });
-    Fechar_Recordset(rs);
-}
 
 QString fixedDiscountQuery(double code)
 {
@@ -81,11 +70,10 @@ void Restaurar_Escala_Impressora()
 
 int Filtrar_Numero(int key, const QString &text, bool negative)
 {
-    constexpr int backspace = 8;
     if (key == '.' && !text.contains(','))
         key = ',';
 
-    const bool accepted = (key >= '0' && key <= '9') || key == backspace || (key == ',' && !text.contains(',')) ||
+    const bool accepted = (key >= '0' && key <= '9') || key == vbKeyBack || (key == ',' && !text.contains(',')) ||
                           (key == '-' && negative && !text.contains('-'));
     return accepted ? key : 0;
 }
@@ -134,9 +122,7 @@ QString Grupo_Do_Cliente(const QString &name)
 
 bool Tem_Link(const QString &name)
 {
-    bool found = false;
-    readFirstRow("Select Codigo from Links Where Nome='" + name + "'", [&](const Recordset &) { found = true; });
-    return found;
+    return hasRow("Select Codigo from Links Where Nome='" + name + "'");
 }
 
 void Obter_Ultimo_Caixa()
@@ -157,9 +143,7 @@ bool Caixa_Aberto()
 
 bool Tem_Desconto_Fixo(double code)
 {
-    bool found = false;
-    readFirstRow(fixedDiscountQuery(code), [&](const Recordset &) { found = true; });
-    return found;
+    return hasRow(fixedDiscountQuery(code));
 }
 
 double Valor_Desconto_Fixo(double code, double total)

@@ -6,6 +6,11 @@
 namespace Placeholder {
 inline const QString NoName = "------";
 inline const QString NoProductCode = "---";
+inline const QString NoState = "--";
+inline const QString NoPostalCode = "00.000-000";
+// A new customer and an edited one get another text each, and that stays.
+inline const QString NoBirthDate = "01/01/1900";
+inline const QString NoBirthDateEdited = "00/00/0000";
 inline const QString NoPhoto = "-----";
 inline const QString NoCategory = "-----";
 inline const QString NoMotive = "-----------";

@@ -50,7 +50,7 @@ void Detalhar_Produtos(SaleReceipt &receipt, const SaleReceipt::Content &content
     receipt.lineDone(content);
     for (int row = 1; row < cart.Rows(); ++row) {
         const QString description = cart.TextMatrix(row, CartColumn::Description);
-        const QString quantity = cart.TextMatrix(row, CartColumn::Quantity) + loadedSaleText("String8");
+        const QString quantity = cart.TextMatrix(row, CartColumn::Quantity) + saleTexts.loaded("String8");
         const QString value = SimboloMoeda + " " + cart.TextMatrix(row, CartColumn::Value);
         device.place(0, receipt.linha(), description);
         device.place(quantityColumn, receipt.linha(), quantity);

@@ -3,17 +3,13 @@
 #include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
+#include "platform/window/KeyCodes.h"
 #include "sale/Amounts.h"
 #include "sale/SaleDiscount.h"
 #include "sale/SaleProducts.h"
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
-
-namespace {
-constexpr int enterKey = 13;
-constexpr int backspaceKey = 8;
-} // namespace
 
 SaleCart::SaleCart(Ui::frmvenda &window, SaleState &state, SaleDiscount &discount, SaleProducts &products,
                    QObject *parent)
@@ -30,9 +26,9 @@ SaleCart::SaleCart(Ui::frmvenda &window, SaleState &state, SaleDiscount &discoun
     connect(ui.txtquantidade, &TextBox::KeyPress, this, [this](int &KeyAscii) {
         if (m_discount.Bloqueio_Desconto)
             return;
-        if (KeyAscii == enterKey)
+        if (KeyAscii == vbKeyReturn)
             cmdadicionar_Click();
-        else if ((KeyAscii < '0' || KeyAscii > '9') && KeyAscii != backspaceKey)
+        else if ((KeyAscii < '0' || KeyAscii > '9') && KeyAscii != vbKeyBack)
             KeyAscii = 0;
     });
 }
@@ -42,17 +38,17 @@ void SaleCart::cmdadicionar_Click()
     if (m_discount.Bloqueio_Desconto)
         return;
     if (!m_products.Buscar_Produtos(ui.cmbprodutos->currentText())) {
-        saleNotice("MsgBox5");
+        saleTexts.notice("MsgBox5");
         return;
     }
     const double quantidade = Val(QStringView(ui.txtquantidade->text()));
     if (quantidade <= 0) {
-        saleNotice("MsgBox3");
+        saleTexts.notice("MsgBox3");
         ui.txtquantidade->setFocus();
         return;
     }
     if (ui.cmbprodutos->currentText().isEmpty()) {
-        saleNotice("MsgBox4");
+        saleTexts.notice("MsgBox4");
         ui.cmbprodutos->setFocus();
         return;
     }
@@ -120,8 +116,9 @@ void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
 
 void SaleCart::refuse(const QString &descricao, double quantidade, const QString &stock)
 {
-    saleNoticeText(saleText("MsgBox1") + Cstr(quantidade) + saleText("MsgBox1_2") + "\n" + saleText("MsgBox1_3") +
-                   descricao.toUpper() + saleText("MsgBox1_4") + stock + saleText("MsgBox1_5"));
+    saleTexts.noticeText(saleTexts.text("MsgBox1") + Cstr(quantidade) + saleTexts.text("MsgBox1_2") + "\n" +
+                         saleTexts.text("MsgBox1_3") + descricao.toUpper() + saleTexts.text("MsgBox1_4") + stock +
+                         saleTexts.text("MsgBox1_5"));
     ui.txtquantidade->setFocus();
 }
 

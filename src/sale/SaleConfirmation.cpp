@@ -49,7 +49,7 @@ QString SaleConfirmation::cartText(int row, int column) const
 void SaleConfirmation::refuse(const QString &key, QWidget *focus)
 {
     m_form.setMousePointer(usualPointer);
-    saleNotice(key);
+    saleTexts.notice(key);
     if (focus)
         focus->setFocus();
     m_discount.Bloqueio_Desconto = false;
@@ -143,11 +143,11 @@ bool SaleConfirmation::takeBuyer()
 int SaleConfirmation::ask()
 {
     QString question;
-    const QString amount = loadedSaleText("String5") + withSymbol(m_discount.Total_Final);
+    const QString amount = saleTexts.loaded("String5") + withSymbol(m_discount.Total_Final);
     const bool paid = m_state.Debito_Venda == 0;
     if (m_state.Avulsa_Venda == 0)
         question =
-            amount + loadedSaleText(paid ? "String5_2" : "String6") + "\n" + m_state.Nome_Cliente.toUpper() + "?";
+            amount + saleTexts.loaded(paid ? "String5_2" : "String6") + "\n" + m_state.Nome_Cliente.toUpper() + "?";
     else if (paid)
         question = amount + "?";
     m_form.setMousePointer(usualPointer);
@@ -193,9 +193,9 @@ void SaleConfirmation::store()
     }
     m_discount.Bloqueio_Desconto = false;
     m_form.setMousePointer(usualPointer);
-    saleNotice("MsgBox13");
+    saleTexts.notice("MsgBox13");
     if (!m_lowStock.isEmpty())
-        MsgBox(loadedSaleText("String9") + "\n\n" + m_lowStock.join('\n') + "\n", vbInformation, attention);
+        MsgBox(saleTexts.loaded("String9") + "\n\n" + m_lowStock.join('\n') + "\n", vbInformation, attention);
     reset();
 }
 

@@ -4,16 +4,10 @@
 #include "data/Acesso_BD.h"
 #include "data/Placeholders.h"
 #include "platform/base/Err.h"
-#include "platform/window/Forms.h"
+#include "platform/window/BoxKeys.h"
 #include "sale/SaleDiscount.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
-
-namespace {
-constexpr int enterKey = 13;
-constexpr int arrowUp = 38;
-constexpr int arrowDown = 40;
-} // namespace
 
 QString productEntry(const QString &code, const QString &description)
 {
@@ -32,13 +26,13 @@ SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, Q
 {
     connect(ui.cmbprodutos, &ComboBox::Click, this, &SaleProducts::cmbprodutos_Click);
     const auto arrow = [this](int KeyCode) {
-        if (KeyCode == arrowUp || KeyCode == arrowDown)
+        if (KeyCode == vbKeyUp || KeyCode == vbKeyDown)
             cmbprodutos_Click();
     };
     connect(ui.cmbprodutos, &ComboBox::KeyDown, this, arrow);
     connect(ui.cmbprodutos, &ComboBox::KeyUp, this, arrow);
     connect(ui.cmbprodutos, &ComboBox::KeyPress, this, [this](int &KeyAscii) {
-        if (KeyAscii != enterKey)
+        if (KeyAscii != vbKeyReturn)
             return;
         Buscar_Produtos(ui.cmbprodutos->currentText());
         cmbprodutos_Click();
@@ -49,12 +43,12 @@ SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, Q
         ui.txtcod_barra->setCaretToEnd();
     });
     connect(ui.txtcod_barra, &TextBox::KeyPress, this, [this](int &KeyAscii) {
-        if (KeyAscii == enterKey && !m_discount.Bloqueio_Desconto)
+        if (KeyAscii == vbKeyReturn && !m_discount.Bloqueio_Desconto)
             txtcod_barra_Enter();
     });
     // Entered again, the box gives its old code up to the next scan.
-    connect(ui.txtcod_barra, &TextBox::GotFocus, ui.txtcod_barra, &TextBox::selectAll);
-    connect(ui.txtquantidade, &TextBox::GotFocus, ui.txtquantidade, &TextBox::selectAll);
+    selectOnEntry(ui.txtcod_barra);
+    selectOnEntry(ui.txtquantidade);
 }
 
 void SaleProducts::Listar_Produtos()
@@ -98,13 +92,13 @@ void SaleProducts::cmbprodutos_Click()
     if (m_discount.Bloqueio_Desconto)
         return;
     if (!Buscar_Produtos(ui.cmbprodutos->currentText())) {
-        saleNotice("MsgBox2");
+        saleTexts.notice("MsgBox2");
         return;
     }
     const QString text = ui.cmbprodutos->currentText();
     if (text.isEmpty()) {
-        ui.lblpreço_unitario->setCaption(loadedSaleText("String2"));
-        ui.lblquant_estoque->setCaption(loadedSaleText("String3"));
+        ui.lblpreço_unitario->setCaption(saleTexts.loaded("String2"));
+        ui.lblquant_estoque->setCaption(saleTexts.loaded("String3"));
         return;
     }
     Info_Produto(productDescription(text).toUpper());
@@ -119,11 +113,11 @@ void SaleProducts::Info_Produto(const QString &descricao)
                              "Select * from Produtos Where Descrição='" + descricao + "' Order By Descrição");
         if (!rs || rs->Eof())
             return;
-        ui.lblpreço_unitario->setCaption(loadedSaleText("String2") + SimboloMoeda + " " +
+        ui.lblpreço_unitario->setCaption(saleTexts.loaded("String2") + SimboloMoeda + " " +
                                          rs->Fields("Valor_Unitario").text());
         ui.lblquant_estoque->setCaption(rs->Fields("Servico").boolean()
-                                            ? loadedSaleText("String4")
-                                            : loadedSaleText("String3") + rs->Fields("Quantidade").text());
+                                            ? saleTexts.loaded("String4")
+                                            : saleTexts.loaded("String3") + rs->Fields("Quantidade").text());
         Fechar_Recordset(rs);
     });
 }
@@ -150,7 +144,7 @@ void SaleProducts::txtcod_barra_Enter()
 {
     const QString entry = Retornar_Descrição(ui.txtcod_barra->text());
     if (entry.isEmpty()) {
-        saleNotice("MsgBox2");
+        saleTexts.notice("MsgBox2");
         return;
     }
     ui.cmbprodutos->setCurrentText(entry);

@@ -30,10 +30,15 @@ QString FormatTime(const QDateTime &moment)
 
 bool IsDate(QStringView text)
 {
+    return readDate(text).has_value();
+}
+
+std::optional<QDate> readDate(QStringView text)
+{
     static const QRegularExpression threeNumbers(R"(^\s*(\d{1,4})([-/.])(\d{1,2})\2(\d{1,4})\s*$)");
     const QRegularExpressionMatch match = threeNumbers.match(text.toString());
     if (!match.hasMatch())
-        return false;
+        return {};
     const std::array numbers{match.captured(1).toInt(), match.captured(3).toInt(), match.captured(4).toInt()};
 
     QString order;
@@ -42,7 +47,8 @@ bool IsDate(QStringView text)
             order.append(letter);
     }
     if (order.size() != 3)
-        return false;
+        return {};
     const auto part = [&](QChar letter) { return numbers.at(static_cast<std::size_t>(order.indexOf(letter))); };
-    return QDate::isValid(fullYear(part(u'y')), part(u'M'), part(u'd'));
+    const QDate date(fullYear(part(u'y')), part(u'M'), part(u'd'));
+    return date.isValid() ? std::optional(date) : std::nullopt;
 }

@@ -34,6 +34,20 @@ void ComboBox::showPopup()
     QComboBox::showPopup();
 }
 
+QString ComboBox::Text() const
+{
+    return isEditable() || currentIndex() >= 0 ? currentText() : placeholderText();
+}
+
+void ComboBox::setText(const QString &text)
+{
+    setCurrentIndex(findText(text, Qt::MatchFixedString | Qt::MatchCaseSensitive));
+    if (isEditable())
+        setEditText(text);
+    else
+        setPlaceholderText(currentIndex() < 0 ? text : QString());
+}
+
 bool ComboBox::eventFilter(QObject *watched, QEvent *event)
 {
     // The open list looks for what is typed, too; its other keys stay its own.
@@ -87,6 +101,14 @@ void ComboBox::inputMethodEvent(QInputMethodEvent *event)
 {
     filterCommit(event, [this](int &code) { emit KeyPress(code); });
     QComboBox::inputMethodEvent(event);
+}
+
+void ComboBox::focusInEvent(QFocusEvent *event)
+{
+    QComboBox::focusInEvent(event);
+    // Whoever comes from the box before types a new text over the old one.
+    if (isEditable() && event->reason() == Qt::OtherFocusReason)
+        lineEdit()->selectAll();
 }
 
 void ComboBox::focusOutEvent(QFocusEvent *event)

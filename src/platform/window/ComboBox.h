@@ -14,6 +14,10 @@ public:
     void setEditable(bool editable);
     void showPopup() override;
 
+    QString Text() const;
+    /// A list that can't be typed into shows any text that the program sets, too.
+    void setText(const QString &text);
+
 signals:
     /// The attendant picked an entry, by mouse, keyboard or wheel.
     void Click();
@@ -30,6 +34,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 

@@ -1,6 +1,7 @@
 #include "platform/window/FlexGrid.h"
 
 #include "platform/base/Err.h"
+#include "platform/text/UpperPrefix.h"
 #include "platform/window/FlexGridHeadings.h"
 #include "platform/window/FlexGridModel.h"
 
@@ -127,6 +128,27 @@ QString FlexGrid::TextMatrix(int row, int col) const
     return m_model->text(row, col);
 }
 
+int FlexGrid::findPrefix(const QString &term, int row, std::initializer_list<int> cols) const
+{
+    const UpperPrefix prefix(term);
+    for (const int col : cols)
+        requireCol(col);
+    for (int each = row; each < Rows(); ++each)
+        for (const int col : cols)
+            if (prefix.begins(m_model->text(each, col)))
+                return each;
+    return 0;
+}
+
+void FlexGrid::goToRow(int row, int col)
+{
+    setCol(col);
+    setRow(row);
+    setTopRow(row);
+    setFocus();
+    setColSel(Cols() - 1);
+}
+
 void FlexGrid::setTextMatrix(int row, int col, const QString &text)
 {
     requireRow(row);
@@ -204,8 +226,10 @@ void FlexGrid::select(const Selection &selection)
 
 void FlexGrid::showSelection()
 {
-    if (Row() == 0)
+    if (Row() == 0) {
+        selectionModel()->clear();
         return;
+    }
     const int top = std::max(std::min(Row(), RowSel()), 1);
     const int bottom = std::max(Row(), RowSel());
     const QItemSelection rows(m_model->index(top - 1, 0), m_model->index(bottom - 1, Cols() - 1));

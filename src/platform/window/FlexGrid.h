@@ -28,7 +28,7 @@ public:
 
     int Row() const { return m_selection.row; }
     /// Moves the current cell and collapses the selection to it. With no row but the headings it is 0. Row 0 takes
-    /// `CellPicture` to a heading; the rows that look selected stay so.
+    /// `CellPicture` to a heading, and no row looks selected.
     void setRow(int row);
     int RowSel() const { return m_selection.rowSel; }
     void setRowSel(int row);
@@ -43,6 +43,12 @@ public:
     bool RowIsVisible(int row) const;
 
     QString TextMatrix(int row, int col) const;
+    /// The first row from `row` on with a text in one of the columns that begins with the term, without regard to
+    /// case; 0 for none.
+    int findPrefix(const QString &term, int row, std::initializer_list<int> cols) const;
+    /// Makes a found row the current one, at the top of the list and highlighted as a whole, and hands the keyboard to
+    /// the list.
+    void goToRow(int row, int col);
     void setTextMatrix(int row, int col, const QString &text);
 
     QString FormatString() const { return m_formatString; }
@@ -59,12 +65,12 @@ public:
     /// The headings and the last row beside them can't be removed.
     void RemoveItem(int row);
 
-    /// Row and column of the last click.
+    /// Row and column of the last click, by mouse or keyboard.
     int MouseRow() const { return m_mouseRow; }
     int MouseCol() const { return m_mouseCol; }
 
 signals:
-    /// The attendant clicked a cell, or a heading (`MouseRow` 0). A heading gives its column to `Col` and leaves the
+    /// The attendant clicked a cell or pressed Space in the list, or clicked a heading (`MouseRow` 0). A heading gives its column to `Col` and leaves the
     /// rows as they are.
     void Click();
     /// The selection changed, by the attendant or by the program. Rows and columns that come or go tell nothing.

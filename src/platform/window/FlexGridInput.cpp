@@ -38,6 +38,14 @@ void FlexGrid::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Right:
         ++col;
         break;
+    case Qt::Key_Space:
+        // Whoever works without a mouse picks the row with it.
+        if (Row() > 0) {
+            m_mouseRow = Row();
+            m_mouseCol = Col();
+            emit Click();
+        }
+        return;
     default:
         // Enter and all other keys belong to the window.
         event->ignore();

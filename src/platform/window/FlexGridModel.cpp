@@ -17,7 +17,8 @@ QVariant FlexGridModel::data(const QModelIndex &index, int role) const
     const int row = index.row() + 1;
     switch (role) {
     case Qt::DisplayRole:
-        return text(row, index.column());
+        // A text of several lines stands in one row here.
+        return QString(text(row, index.column())).replace('\n', ' ');
     case Qt::DecorationRole:
         if (const QPixmap found = picture(row, index.column()); !found.isNull())
             return found;

@@ -2,19 +2,12 @@
 
 #include <QKeyEvent>
 
-namespace {
-
-constexpr int enter = 13;
-constexpr int backspace = 8;
-
-} // namespace
-
 int keyAscii(const QKeyEvent &event)
 {
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
-        return enter;
+        return vbKeyReturn;
     if (event.key() == Qt::Key_Backspace)
-        return backspace;
+        return vbKeyBack;
     const QString text = event.text();
     // Ctrl and Alt together are how some keyboards send AltGr, so it is the text that decides.
     return text.size() == 1 && text.at(0).isPrint() ? text.at(0).unicode() : 0;
@@ -26,20 +19,20 @@ int keyCode(const QKeyEvent &event)
     {
         int key;
         int code;
-    } codes[] = {{Qt::Key_Backspace, backspace},
+    } codes[] = {{Qt::Key_Backspace, vbKeyBack},
                  {Qt::Key_Tab, 9},
-                 {Qt::Key_Return, enter},
-                 {Qt::Key_Enter, enter},
+                 {Qt::Key_Return, vbKeyReturn},
+                 {Qt::Key_Enter, vbKeyReturn},
                  {Qt::Key_Escape, 27},
                  {Qt::Key_PageUp, 33},
                  {Qt::Key_PageDown, 34},
                  {Qt::Key_End, 35},
                  {Qt::Key_Home, 36},
                  {Qt::Key_Left, 37},
-                 {Qt::Key_Up, 38},
+                 {Qt::Key_Up, vbKeyUp},
                  {Qt::Key_Right, 39},
-                 {Qt::Key_Down, 40},
-                 {Qt::Key_Delete, 46},
+                 {Qt::Key_Down, vbKeyDown},
+                 {Qt::Key_Delete, vbKeyDelete},
                  {Qt::Key_F4, 115}};
     for (const auto &each : codes)
         if (each.key == event.key())
@@ -64,7 +57,7 @@ void filterKey(QKeyEvent *event, const std::function<void(int &)> &tell,
     event->accept();
     if (told == 0)
         return;
-    const int key = told == enter ? int(Qt::Key_Return) : told == backspace ? int(Qt::Key_Backspace) : 0;
+    const int key = told == vbKeyReturn ? int(Qt::Key_Return) : told == vbKeyBack ? int(Qt::Key_Backspace) : 0;
     QKeyEvent typed(event->type(), key, Qt::NoModifier, QString(QChar(told)), event->isAutoRepeat());
     deliver(&typed);
 }

@@ -5,6 +5,16 @@
 class QInputMethodEvent;
 class QKeyEvent;
 
+/// Codes of the keys that the windows look at.
+enum KeyCode
+{
+    vbKeyBack = 8,
+    vbKeyReturn = 13,
+    vbKeyUp = 38,
+    vbKeyDown = 40,
+    vbKeyDelete = 46,
+};
+
 /// The character code that a key press stands for: 13 for Enter, 8 for Backspace, the character of a printable key; 0
 /// for every other key.
 int keyAscii(const QKeyEvent &event);

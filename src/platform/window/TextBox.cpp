@@ -62,6 +62,10 @@ void TextBox::setCaretToEnd()
 TextBox::State TextBox::shaped(const State &, const State &after) const
 {
     State result = after;
+    // The box has one line: what was pasted with breaks and tabs has blanks instead.
+    for (QChar &character : result.text)
+        if (character.isSpace())
+            character = ' ';
     if (const int excess = codePoints(after.text) - m_limit; excess > 0) {
         const qsizetype units = codeUnitsBefore(after.text, after.caret, excess);
         result.caret -= static_cast<int>(units);

@@ -6,7 +6,8 @@
 
 #include <optional>
 
-/// A text box that tells of each key before it becomes a character. What is pasted comes in as it is.
+/// A text box that tells of each key before it becomes a character. What is pasted comes in as it is, but for
+/// line breaks and tabs, which become blanks.
 class TextBox : public QLineEdit
 {
     Q_OBJECT
