@@ -23,3 +23,8 @@ QString caminhoConfig()
 {
     return Pasta_Do_Arquivo(CaminhoBD) + "\\config.ini";
 }
+
+QString caminhoFototemp()
+{
+    return Pasta_Do_Arquivo(CaminhoBD) + "\\Fototemp.jpg";
+}

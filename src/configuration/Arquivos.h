@@ -10,3 +10,6 @@ QString Pasta_Do_Arquivo(const QString &path);
 
 /// Path of the shared `config.ini`.
 QString caminhoConfig();
+
+/// Path of the picture that the camera hands over to the next save.
+QString caminhoFototemp();

@@ -1,7 +1,8 @@
 #include "customers/CustomerPrintouts.h"
 
 #include "configuration/Arquivos.h"
-#include "configuration/Idiomas.h"
+#include "customers/CustomerColumns.h"
+#include "customers/CustomerTexts.h"
 #include "platform/text/Space.h"
 #include "platform/window/FlexGrid.h"
 #include "platform/window/Prompts.h"
@@ -14,17 +15,7 @@ constexpr int remarkWidth = 32;
 
 QString text(const QString &key)
 {
-    return textoIdioma("frmcadastro_clientes", key);
-}
-
-void notify(const QString &key, const QString &titleKey)
-{
-    MsgBox(text(key), vbInformation, text(titleKey));
-}
-
-bool agreed(const QString &key)
-{
-    return MsgBox(text(key), vbYesNo + vbQuestion, text(key + "_2")) == vbYes;
+    return customerTexts.text(key);
 }
 
 /// Labels are read once for a report: a file is asked for each.
@@ -50,11 +41,14 @@ ListEntries entriesOf(const FlexGrid &grid)
 {
     return {grid.Rows() - 1, [&grid, labels = Labels()](int row, const ReportLine &write) {
                 const auto column = [&](int col) { return grid.TextMatrix(row, col); };
-                write(labels.code + column(0));
-                write(labels.name + padded(column(1), nameWidth) + labels.birth + column(4));
-                write(labels.nick + padded(column(2), nickWidth) + labels.group + column(3));
-                write(labels.remark + padded(column(5), remarkWidth) + labels.notice + column(5));
-                write(labels.authorised + column(6));
+                write(labels.code + column(CustomerColumn::Codigo));
+                write(labels.name + padded(column(CustomerColumn::Name), nameWidth) + labels.birth +
+                      column(CustomerColumn::BirthDate));
+                write(labels.nick + padded(column(CustomerColumn::Nick), nickWidth) + labels.group +
+                      column(CustomerColumn::Group));
+                write(labels.remark + padded(column(CustomerColumn::Note), remarkWidth) + labels.notice +
+                      column(CustomerColumn::Note));
+                write(labels.authorised + column(CustomerColumn::Authorised));
                 write(reportRule);
             }};
 }
@@ -62,10 +56,10 @@ ListEntries entriesOf(const FlexGrid &grid)
 
 void imprimirClientes(const FlexGrid &tab_clientes, int TotalClientes)
 {
-    if (!agreed("MsgBox15"))
+    if (!customerTexts.confirms("MsgBox15", "MsgBox15_2", vbQuestion))
         return;
     if (TotalClientes == 0)
-        return notify("MsgBox16", "MsgBox13_2");
+        return customerTexts.notice("MsgBox16", "MsgBox13_2");
 
     PrintedList list;
     list.documentName = text("DispositivoSaida1");
@@ -87,13 +81,13 @@ void imprimirClientes(const FlexGrid &tab_clientes, int TotalClientes)
 void salvarClientes(const FlexGrid &tab_clientes, int TotalClientes)
 {
     if (TotalClientes == 0)
-        return notify("MsgBox25", "MsgBox13_2");
+        return customerTexts.notice("MsgBox25", "MsgBox13_2");
     FileDialog caixa_dialogo;
     caixa_dialogo.DefaultExt = ".txt";
     caixa_dialogo.ShowSave();
     if (caixa_dialogo.FileName.isEmpty())
         return;
-    if (Existe_Arquivo(caixa_dialogo.FileName) && !agreed("MsgBox23"))
+    if (Existe_Arquivo(caixa_dialogo.FileName) && !customerTexts.confirms("MsgBox23", "MsgBox23_2", vbQuestion))
         return;
 
     SavedList list;
@@ -104,8 +98,8 @@ void salvarClientes(const FlexGrid &tab_clientes, int TotalClientes)
         write(row, line);
         line(" ");
     };
-    list.closing = QStringList{QString::number(TotalClientes) +
-                               textoCarregado("frmcadastro_clientes", TotalClientes == 1 ? "String5" : "String6")};
+    list.closing =
+        QStringList{QString::number(TotalClientes) + customerTexts.loaded(TotalClientes == 1 ? "String5" : "String6")};
     if (saveList(caixa_dialogo.FileName, list))
-        notify("MsgBox24", "MsgBox24_2");
+        customerTexts.notice("MsgBox24", "MsgBox24_2");
 }

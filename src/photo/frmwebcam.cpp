@@ -1,7 +1,6 @@
 #include "photo/frmwebcam.h"
 
 #include "configuration/Arquivos.h"
-#include "configuration/Globais.h"
 #include "configuration/Idiomas.h"
 #include "photo/Conversor_JPG.h"
 #include "platform/base/Err.h"
@@ -49,7 +48,7 @@ void frmwebcam::cmdcapturar_tela_Click()
 void frmwebcam::cmdconfirmar_Click()
 {
     const EventPump pump;
-    const QString file = Pasta_Do_Arquivo(CaminhoBD) + "\\Fototemp.jpg";
+    const QString file = caminhoFototemp();
     Salvar_JPG(ui->pctfoto->Picture(), file);
     emit confirmed(file);
     Unload();

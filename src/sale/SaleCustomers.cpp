@@ -1,12 +1,9 @@
 #include "sale/SaleCustomers.h"
 
-#include "configuration/Arquivos.h"
-#include "data/Acesso_BD.h"
-#include "data/Placeholders.h"
-#include "platform/base/Err.h"
+#include "customers/CustomerColumns.h"
+#include "data/FirstRow.h"
 #include "platform/window/Forms.h"
-#include "platform/window/Pictures.h"
-#include "platform/window/Prompts.h"
+#include "platform/window/KeyCodes.h"
 #include "sale/SaleDiscount.h"
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"
@@ -14,19 +11,9 @@
 
 #include <QKeyEvent>
 
-namespace {
-constexpr int nameColumn = 1;
-constexpr int nickColumn = 2;
-constexpr int enterKey = 13;
-constexpr QSize searchPictureSize(20, 20);
-constexpr QSize photoSize(96, 96);
-} // namespace
-
 SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleDiscount &discount, QObject *parent)
-    : QObject(parent), ui(window), m_state(state), m_discount(discount)
+    : QObject(parent), ui(window), m_state(state), m_discount(discount), m_next(*window.cmdbusca)
 {
-    ui.cmdbusca->setIconSize(searchPictureSize);
-    searchAgainFromTop();
     ui.txtnome->installEventFilter(this);
 
     connect(ui.txtnome, &TextBox::Change, this, [this] {
@@ -36,10 +23,10 @@ SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleD
     connect(ui.txtnome, &TextBox::KeyPress, this, [this](int &KeyAscii) {
         if (m_discount.Bloqueio_Desconto)
             return;
-        if (KeyAscii == enterKey)
+        if (KeyAscii == vbKeyReturn)
             cmdbusca_Click();
-        else if (Busca_Continua)
-            searchAgainFromTop();
+        else
+            m_next.setGoesOn(false);
     });
     connect(ui.cmdbusca, &QPushButton::clicked, this, [this] {
         if (!m_discount.Bloqueio_Desconto)
@@ -57,7 +44,8 @@ void SaleCustomers::Listar_Clientes()
     OnErrorResumeNext([&] {
         Abrir_Banco_Principal();
         grid.Clear();
-        grid.setFormatString("<          |<" + saleText("tab_clientes1") + "|<" + saleText("tab_clientes2"));
+        grid.setFormatString("<          |<" + saleTexts.text("tab_clientes1") + "|<" +
+                             saleTexts.text("tab_clientes2"));
         grid.setCols(3);
         grid.setRows(1);
 
@@ -76,8 +64,8 @@ void SaleCustomers::Listar_Clientes()
         // Another terminal may have registered a customer since the count; the list holds those that were counted.
         for (int row = 1; !rs->Eof() && row <= count; rs->MoveNext(), ++row) {
             grid.setTextMatrix(row, 0, rs->Fields(codigo).text());
-            grid.setTextMatrix(row, nameColumn, rs->Fields(nome).text());
-            grid.setTextMatrix(row, nickColumn, rs->Fields(nick).text());
+            grid.setTextMatrix(row, CustomerColumn::Name, rs->Fields(nome).text());
+            grid.setTextMatrix(row, CustomerColumn::Nick, rs->Fields(nick).text());
         }
         Fechar_Recordset(rs);
     });
@@ -85,58 +73,35 @@ void SaleCustomers::Listar_Clientes()
 
 bool SaleCustomers::Buscar_Cliente(const QString &termo, int inicio)
 {
-    FlexGrid &grid = *ui.tab_clientes;
-    const QString wanted = termo.toUpper();
-    const auto begins = [&](int row, int column) { return grid.TextMatrix(row, column).toUpper().startsWith(wanted); };
-    for (int row = inicio; row < grid.Rows(); ++row) {
-        if (!begins(row, nameColumn) && !begins(row, nickColumn))
-            continue;
-        DoEvents();
-        grid.setCol(nameColumn);
-        grid.setRow(row);
-        grid.setTopRow(row);
-        grid.setFocus();
-        grid.setColSel(grid.Cols() - 1);
-        tab_clientes_Click();
-        DoEvents();
-        return true;
-    }
-    return false;
+    return selectCustomer(*ui.tab_clientes, termo, inicio, CustomerColumn::Name, [this] { tab_clientes_Click(); });
 }
 
 void SaleCustomers::cmdbusca_Click()
 {
     if (ui.txtnome->text().isEmpty()) {
-        saleNotice("MsgBox6");
+        saleTexts.notice("MsgBox6");
         return;
     }
     ui.txtnome->setText(ui.txtnome->text().toUpper());
-    if (Busca_Continua) {
+    if (m_next.goesOn()) {
         if (!Buscar_Cliente(Ultima_Busca, ui.tab_clientes->Row() + 1))
-            saleNotice("MsgBox6");
+            saleTexts.notice("MsgBox6");
         return;
     }
     Ultima_Busca = ui.txtnome->text();
     if (Buscar_Cliente(Ultima_Busca, 1)) {
-        Busca_Continua = true;
-        ui.cmdbusca->setIcon(bundledPicture("imgnova_procura", searchPictureSize));
+        m_next.setGoesOn(true);
     } else {
-        searchAgainFromTop();
-        saleNotice("MsgBox6");
+        m_next.setGoesOn(false);
+        saleTexts.notice("MsgBox6");
     }
-}
-
-void SaleCustomers::searchAgainFromTop()
-{
-    Busca_Continua = false;
-    ui.cmdbusca->setIcon(bundledPicture("imgprocura", searchPictureSize));
 }
 
 void SaleCustomers::takeSelectedCustomer()
 {
     const FlexGrid &grid = *ui.tab_clientes;
-    m_state.Nome_Cliente = grid.TextMatrix(grid.Row(), nameColumn);
-    m_state.Nick_Cliente = grid.TextMatrix(grid.Row(), nickColumn);
+    m_state.Nome_Cliente = grid.TextMatrix(grid.Row(), CustomerColumn::Name);
+    m_state.Nick_Cliente = grid.TextMatrix(grid.Row(), CustomerColumn::Nick);
     ui.txtnome->setText(m_state.Nome_Cliente);
     if (!grid.RowIsVisible(grid.RowSel()))
         ui.tab_clientes->setTopRow(grid.RowSel());
@@ -160,28 +125,14 @@ void SaleCustomers::tab_clientes_SelChange()
 void SaleCustomers::ExibirFoto(const QString &nome)
 {
     QString path;
-    OnErrorResumeNext([&] {
-        Abrir_Banco_Principal();
-        RecordsetHandle rs;
-        rs = Abrir_Recordset(rs, BancoPrincipal, "Select CaminhoFoto From Clientes Where Nome='" + nome + "'");
-        if (rs && !rs->Eof())
-            path = rs->Fields("CaminhoFoto").text();
-        Fechar_Recordset(rs);
-    });
-    if (path.isEmpty() || path == Placeholder::NoPhoto || !Existe_Arquivo(path)) {
-        ui.imgfoto->setPixmap(bundledPicture("imgninguem", photoSize));
-        return;
-    }
-    // A file that is no picture leaves the picture that is shown, as any failed statement leaves things.
-    OnErrorResumeNext([&] {
-        const QPixmap photo = LoadPicture(path);
-        ui.imgfoto->setPixmap(photo.scaled(photoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-    });
+    readFirstRow("Select CaminhoFoto From Clientes Where Nome='" + nome + "'",
+                 [&](const Recordset &rs) { path = rs.Fields("CaminhoFoto").text(); });
+    ui.imgfoto->showStored(path);
 }
 
 void SaleCustomers::optavulsa_Click()
 {
-    ui.imgfoto->setPixmap(bundledPicture("imgninguem", photoSize));
+    ui.imgfoto->showNobody();
     if (m_discount.Bloqueio_Desconto)
         return;
     m_state.Avulsa_Venda = yesFlag;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "customers/CustomerSearch.h"
+
 #include <QObject>
 #include <QString>
 
@@ -33,13 +35,12 @@ protected:
 
 private:
     void cmdbusca_Click();
-    void searchAgainFromTop();
     void takeSelectedCustomer();
     void setGridEnabled(bool enabled);
 
     Ui::frmvenda &ui;
     SaleState &m_state;
     const SaleDiscount &m_discount;
-    bool Busca_Continua = false;
+    NextMatchButton m_next;
     QString Ultima_Busca;
 };

@@ -3,11 +3,13 @@
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
+#include "customers/frmcadastro_clientes.h"
 #include "data/Acesso_BD.h"
 #include "data/Funcoes.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Forms.h"
+#include "platform/window/KeyCodes.h"
 #include "platform/window/Pictures.h"
 #include "sale/Amounts.h"
 #include "sale/ProductRules.h"
@@ -21,7 +23,6 @@
 #include "ui_frmvenda.h"
 
 namespace {
-constexpr int enterKey = 13;
 constexpr QSize motivePictureSize(20, 20);
 } // namespace
 
@@ -29,8 +30,7 @@ frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
 {
     ui->setupUi(this);
     ui->imgdesconto->setPixmap(bundledPicture("imgdesconto", motivePictureSize));
-    // The windows behind these two buttons are still to come.
-    ui->cmdcadastro_clientes->setEnabled(false);
+    // The window behind this button is still to come.
     ui->cmdcadastro_produtos->setEnabled(false);
 
     m_discount =
@@ -47,6 +47,7 @@ frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
     connect(ui->chkrecibo, &QCheckBox::clicked, this, &frmvenda::chkrecibo_Click);
     connect(ui->lblconfigurar_recibo, &Label::Click, this, &frmvenda::lblconfigurar_recibo_Click);
     connect(ui->cmdfinalizar, &QPushButton::clicked, this, [this] { m_confirmation->cmdfinalizar_Click(); });
+    connect(ui->cmdcadastro_clientes, &QPushButton::clicked, this, &frmvenda::cmdcadastro_clientes_Click);
     connect(ui->cmdcancelar, &QPushButton::clicked, this, [this] {
         if (!m_discount->Bloqueio_Desconto)
             Unload();
@@ -62,7 +63,7 @@ void frmvenda::connectPayment()
     connect(ui->txtvalor_pago, &TextBox::KeyPress, this, [this](int &KeyAscii) {
         if (m_discount->Bloqueio_Desconto)
             return;
-        if (KeyAscii == enterKey)
+        if (KeyAscii == vbKeyReturn)
             m_confirmation->cmdfinalizar_Click();
         else
             KeyAscii = Filtrar_Numero(KeyAscii, ui->txtvalor_pago->text(), false);
@@ -81,7 +82,7 @@ void frmvenda::connectPayment()
 
 void frmvenda::Form_Load()
 {
-    ui->lbldescrição_venda_produtos->setText(loadedSaleText("String10"));
+    ui->lbldescrição_venda_produtos->setText(saleTexts.loaded("String10"));
     Sempre_No_Topo(*this, true);
     if (Ler_INI(caminhoConfig(), "Recibo Produtos", "Imprimir") == "1")
         ui->chkrecibo->setChecked(true);
@@ -94,8 +95,9 @@ void frmvenda::Form_Load()
             box->setText(blanksAsZeros(box->text()));
     ui->tab_consumo->setCols(4);
     ui->tab_consumo->setRows(1);
-    ui->tab_consumo->setFormatString("<    |<" + saleText("tab_consumo1") + "|<" + saleText("tab_consumo2") + "|<" +
-                                     saleText("tab_consumo3") + SimboloMoeda + QString(15, ' '));
+    ui->tab_consumo->setFormatString("<    |<" + saleTexts.text("tab_consumo1") + "|<" +
+                                     saleTexts.text("tab_consumo2") + "|<" + saleTexts.text("tab_consumo3") +
+                                     SimboloMoeda + QString(15, ' '));
     m_state = {};
     ui->lbltotal->setCaption(withSymbol(0));
     ui->lbltotal_final->setCaption(withSymbol(0));
@@ -178,6 +180,20 @@ void frmvenda::showChange()
 void frmvenda::chkrecibo_Click()
 {
     Gravar_INI(caminhoConfig(), "Recibo Produtos", "Imprimir", ui->chkrecibo->isChecked() ? "1" : "0");
+}
+
+void frmvenda::cmdcadastro_clientes_Click()
+{
+    DoEvents();
+    auto &window = Forms::use<frmcadastro_clientes>();
+    window.Show();
+    Sempre_No_Topo(window, true);
+    Aguardar_Form(window.Name());
+    // This window may have gone with the program while it waited.
+    if (!isLoaded())
+        return;
+    Listar_Clientes();
+    DoEvents();
 }
 
 void frmvenda::lblconfigurar_recibo_Click()

@@ -43,6 +43,7 @@ private:
     void txtvalor_pago_Change();
     void showChange();
     void chkrecibo_Click();
+    void cmdcadastro_clientes_Click();
     void lblconfigurar_recibo_Click();
 
     std::unique_ptr<Ui::frmvenda> ui;

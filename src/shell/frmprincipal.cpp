@@ -5,6 +5,7 @@
 #include "configuration/Globais.h"
 #include "configuration/Idiomas.h"
 #include "configuration/Registros.h"
+#include "customers/frmcadastro_clientes.h"
 #include "data/Acesso_BD.h"
 #include "data/Funcoes.h"
 #include "platform/base/Err.h"
@@ -68,7 +69,7 @@ frmprincipal::frmprincipal() : ui(std::make_unique<Ui::frmprincipal>())
     ui->cmdbuscabd->setIcon(bundledPicture("pasta", folderPictureSize));
     const RefusalTexts longTexts{languageLong(), badPath + " " + adviceOnRights, noFile + " " + adviceOnRights};
     const RefusalTexts shortTexts{noLanguage, badPath, noFile};
-    m_doors = {{ui->cmdclientes, {}, longTexts},
+    m_doors = {{ui->cmdclientes, [] { Forms::use<frmcadastro_clientes>().Show(); }, longTexts},
                {ui->cmdprodutos, {}, shortTexts},
                {ui->cmdvendaprod, [] { Forms::use<frmvenda>().Show(); }, shortTexts}};
     for (const Door &door : std::as_const(m_doors))

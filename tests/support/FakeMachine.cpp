@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QtGlobal>
 
+#include <utility>
+
 FakeMachine::FakeMachine() : m_printoutFolder(m_folder.filePath("printouts")), m_saved(Machine::current())
 {
     QDir().mkpath(m_printoutFolder);
@@ -15,6 +17,8 @@ FakeMachine::FakeMachine() : m_printoutFolder(m_folder.filePath("printouts")), m
     machine.sleep = [this](int milliseconds) {
         sleeps.append(milliseconds);
         clock = clock.addMSecs(milliseconds);
+        if (whileAsleep)
+            std::exchange(whileAsleep, nullptr)();
     };
     machine.playWave = [this](const QString &path) { sounds.append(path); };
     machine.portDevice = [this](int port) { return portDevices.value(port); };

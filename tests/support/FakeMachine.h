@@ -19,6 +19,8 @@ public:
 
     QDateTime clock{QDate(2024, 3, 15), QTime(14, 30, 5)};
     QList<int> sleeps;
+    /// Runs once, in the next sleep.
+    std::function<void()> whileAsleep;
     QStringList sounds;
     QStringList openedDocuments;
     QHash<int, QString> portDevices;

@@ -111,6 +111,14 @@ void TestCafe::execute(const QString &sql)
     database().Execute(sql);
 }
 
+void TestCafe::executeAll(const QStringList &statements)
+{
+    database().inTransaction([&] {
+        for (const QString &statement : statements)
+            execute(statement);
+    });
+}
+
 QString TestCafe::ini(const QString &section, const QString &key) const
 {
     return Ler_INI(path("config.ini"), section, key);

@@ -1,0 +1,212 @@
+#include "customers/CustomerForm.h"
+
+#include "configuration/Arquivos.h"
+#include "configuration/Arquivos_INI.h"
+#include "configuration/Globais.h"
+#include "customers/CustomerTexts.h"
+#include "data/FirstRow.h"
+#include "data/Funcoes.h"
+#include "data/Placeholders.h"
+#include "platform/text/Numbers.h"
+#include "platform/window/BoxKeys.h"
+#include "ui_frmcadastro_clientes.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+const QString emptyDate = "  /  /    ";
+const QString emptyPostalCode = "  .   -   ";
+
+template <typename Box>
+void fillIfEmpty(Box *box, const QString &placeholder)
+{
+    if (box->text().isEmpty())
+        box->setText(placeholder);
+}
+
+/// Warns when a box holds an apostrophe, which no text of a statement may.
+template <typename Box>
+void warnOfApostrophe(Box *box)
+{
+    if (!Tem_Apostrofo(box->text()))
+        return;
+    customerTexts.noticeText(box->property("Tag").toString() + customerTexts.text("MsgBox1"));
+    if (box->isEnabled())
+        box->setFocus();
+}
+} // namespace
+
+CustomerForm::CustomerForm(Ui::frmcadastro_clientes &window, QObject *parent)
+    : QObject(parent)
+    , ui(window)
+    , m_boxes{ui.txtnome, ui.txtdata_nascimento, ui.txtfiliação,      ui.txtdocumento,   ui.txtnick,
+              ui.txtrua,  ui.txtnumero,          ui.txtComplemento,   ui.txtbairro,      ui.txtcidade,
+              ui.txtCep,  ui.txttel_residencial, ui.txttel_comercial, ui.txttel_celular, ui.txtmail}
+{
+    connectEnterChain();
+    connectGroup();
+    for (TextBox *box : {ui.txtnome, ui.txtcidade, static_cast<TextBox *>(ui.txtCep), ui.txtnome_busca})
+        selectOnEntry(box);
+}
+
+void CustomerForm::connectEnterChain()
+{
+    enterMovesTo(ui.txtnome, ui.txtdata_nascimento);
+    enterMovesTo(ui.txtdata_nascimento, ui.txtfiliação);
+    enterMovesTo(ui.txtfiliação, ui.txtdocumento);
+    enterMovesTo(ui.txtdocumento, ui.txtnick);
+    enterMovesTo(ui.txtnick, ui.cmbgrupo_clientes);
+    enterMovesTo(ui.cmbgrupo_clientes, ui.txtrua);
+    enterMovesTo(ui.txtrua, ui.txtnumero);
+    enterMovesTo(ui.txtnumero, ui.txtComplemento);
+    enterMovesTo(ui.txtComplemento, ui.txtbairro);
+    enterMovesTo(ui.txtbairro, ui.txtcidade);
+    enterMovesTo(ui.txtcidade, ui.txtCep);
+    enterMovesTo(ui.txtCep, ui.cmbUF);
+    enterMovesTo(ui.cmbUF, ui.txttel_residencial);
+    enterMovesTo(ui.txttel_residencial, ui.txttel_comercial);
+    enterMovesTo(ui.txttel_comercial, ui.txttel_celular);
+    enterMovesTo(ui.txttel_celular, ui.txtmail);
+    enterMovesTo(ui.txtmail, ui.txtobs);
+}
+
+void CustomerForm::connectGroup()
+{
+    connect(ui.cmbgrupo_clientes, &ComboBox::Click, this, &CustomerForm::showDiscount);
+    connect(ui.cmbgrupo_clientes, &ComboBox::KeyPress, this, [](int &KeyAscii) {
+        if (KeyAscii != vbKeyReturn)
+            KeyAscii = 0;
+    });
+    connect(ui.cmbgrupo_clientes, &ComboBox::KeyDown, this, [](int &KeyCode) {
+        if (KeyCode == vbKeyBack || KeyCode == vbKeyDelete)
+            KeyCode = 0;
+    });
+}
+
+bool CustomerForm::testar_valores()
+{
+    for (TextBox *box : std::as_const(m_boxes))
+        warnOfApostrophe(box);
+    warnOfApostrophe(ui.txtobs);
+    warnOfApostrophe(ui.txtnome_busca);
+    // It warns and never refuses, and that stays: the statement itself breaks.
+    return true;
+}
+
+void CustomerForm::Selecionar_Grupo_Padrao()
+{
+    ComboBox &groups = *ui.cmbgrupo_clientes;
+    QString standard = Ler_INI(caminhoConfig(), "Grupo Clientes", "Padrao");
+    if (standard.isEmpty() || !hasRow("Select * from Grupo_Clientes Where Grupo='" + standard + "'"))
+        standard = "NORMAL";
+    standard = standard.toUpper();
+    Gravar_INI(caminhoConfig(), "Grupo Clientes", "Padrao", standard);
+
+    readFirstRow("Select * from Grupo_Clientes Order By Grupo", [&](Recordset &rs) {
+        groups.clear();
+        for (; !rs.Eof(); rs.MoveNext()) {
+            const QString group = rs.Fields("Grupo").text().toUpper();
+            groups.addItem(group);
+            if (group == standard)
+                standard = Cstr(groups.count());
+        }
+    });
+    // A group that was not found and whose name is a number is taken for a position, and that stays.
+    if (IsNumeric(standard) && Cdbl(standard) <= groups.count())
+        groups.setCurrentIndex(qRound(Cdbl(standard)) - 1);
+    else if (groups.count() > 0)
+        groups.setCurrentIndex(0);
+    showDiscount();
+}
+
+void CustomerForm::Nick_Sequencial()
+{
+    if (Ler_INI(caminhoConfig(), "Nick", "Sequencia") != "1")
+        return;
+    double proposal = 0;
+    readFirstRow("Select Max(val(Nick)) from Clientes",
+                 [&](const Recordset &rs) { proposal = rs.Fields(0).number() + 1; });
+    if (proposal >= 1)
+        ui.txtnick->setText(Format(proposal, u"0"));
+}
+
+void CustomerForm::maskPostalCode()
+{
+    // Nothing assigns the marks of the regions with another postal code. An empty one is found in every language name,
+    // so that the mask stays wherever a language is known.
+    const std::array<QString, 3> regionMarks;
+    const QString language = NomeIdioma.toUpper();
+    const bool found = std::any_of(regionMarks.begin(), regionMarks.end(),
+                                   [&](const QString &mark) { return !language.isEmpty() && language.contains(mark); });
+    if (found)
+        return;
+    ui.txtCep->setMask({});
+    ui.txtCep->setText({});
+}
+
+void CustomerForm::takeTownOfCafe()
+{
+    readFirstRow("Select * From Empresa Where Codigo=1", [&](const Recordset &rs) {
+        ui.txtcidade->setText(rs.Fields("Cidade").text());
+        ui.cmbUF->setText(rs.Fields("UF").text());
+        ui.txtCep->setText(rs.Fields("Cep").text());
+    });
+}
+
+void CustomerForm::clear()
+{
+    for (TextBox *box : std::as_const(m_boxes))
+        box->setText({});
+    ui.txtobs->setText({});
+    ui.txtdata_nascimento->setText(emptyDate);
+    ui.txtCep->setText(emptyPostalCode);
+    ui.chkautorização->setChecked(false);
+    ui.chkobs->setChecked(false);
+    ui.imgfoto->showNobody();
+}
+
+void CustomerForm::selectFirstState()
+{
+    if (ui.cmbUF->count() >= 2)
+        ui.cmbUF->setCurrentIndex(0);
+}
+
+bool CustomerForm::hasBirthDate() const
+{
+    return ui.txtdata_nascimento->text() != emptyDate;
+}
+
+void CustomerForm::fillUpToBirthDate()
+{
+    fillIfEmpty(ui.txtnome, Placeholder::NoName);
+    fillIfEmpty(ui.txtmail, Placeholder::NoName);
+}
+
+void CustomerForm::fillBehindBirthDate()
+{
+    for (TextBox *box : {ui.txtrua, ui.txtnumero, ui.txtComplemento, ui.txtbairro, ui.txtcidade})
+        fillIfEmpty(box, Placeholder::NoName);
+    if (ui.cmbUF->Text().isEmpty())
+        ui.cmbUF->setText(Placeholder::NoState);
+    if (ui.txtCep->text() == emptyPostalCode)
+        ui.txtCep->setText({});
+    fillIfEmpty(static_cast<TextBox *>(ui.txtCep), Placeholder::NoPostalCode);
+    for (TextBox *box : {ui.txttel_residencial, ui.txttel_comercial, ui.txttel_celular})
+        fillIfEmpty(box, Placeholder::NoName);
+    fillIfEmpty(ui.txtobs, Placeholder::NoName);
+    fillIfEmpty(ui.txtnick, Placeholder::NoName);
+    if (ui.cmbgrupo_clientes->Text().isEmpty())
+        ui.cmbgrupo_clientes->setText(Placeholder::NoName);
+    fillIfEmpty(ui.txtfiliação, Placeholder::NoName);
+    fillIfEmpty(ui.txtdocumento, Placeholder::NoName);
+}
+
+void CustomerForm::showDiscount()
+{
+    QString discount = customerTexts.loaded("String9");
+    readFirstRow(
+        "Select * from Grupo_Clientes Where Grupo='" + ui.cmbgrupo_clientes->Text().toUpper() + "'",
+        [&](const Recordset &rs) { discount = customerTexts.loaded("String8") + rs.Fields("Desconto").text() + "%"; });
+    ui.lbldesconto->setText(discount);
+}

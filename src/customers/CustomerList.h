@@ -1,0 +1,47 @@
+#pragma once
+
+#include "customers/CustomerSearch.h"
+
+#include <QObject>
+
+struct CustomerState;
+class Recordset;
+namespace Ui {
+class frmcadastro_clientes;
+}
+
+/// The list of all customers: loading, sorting, searching, counting.
+class CustomerList : public QObject
+{
+    Q_OBJECT
+
+public:
+    CustomerList(Ui::frmcadastro_clientes &window, CustomerState &state, QObject *parent);
+
+    /// Loads the list anew in the order of a field; events run meanwhile.
+    void Ordenar_Tabela(const QString &campo);
+    /// Selects the first customer from a row on whose name or nick begins with the text.
+    bool Buscar_Cliente(const QString &texto, int inicio);
+
+    /// Writes the customer in the form into a row, but for its code.
+    void showCustomer(int row, bool authorised);
+    /// Adds the customer in the form at the end.
+    void addCustomer(double codigo);
+    /// Raises Overflow where there are more customers than a 16-bit number counts.
+    void countAdded();
+    /// What the buttons can do depends on whether anyone is listed.
+    void enableButtons();
+
+private:
+    void countOne();
+    void fill(Recordset &rs);
+    void showCount(bool single);
+    void cmdordenar_Click();
+    void cmdbusca_Click();
+    void tab_clientes_Click();
+    void tab_clientes_SelChange();
+
+    Ui::frmcadastro_clientes &ui;
+    CustomerState &m_state;
+    NextMatchButton m_next;
+};

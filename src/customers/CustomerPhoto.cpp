@@ -1,0 +1,86 @@
+#include "customers/CustomerPhoto.h"
+
+#include "configuration/Arquivos.h"
+#include "configuration/Globais.h"
+#include "customers/CustomerState.h"
+#include "customers/CustomerTexts.h"
+#include "photo/frmwebcam.h"
+#include "platform/base/Err.h"
+#include "platform/files/Paths.h"
+#include "platform/text/Numbers.h"
+#include "platform/window/Forms.h"
+#include "platform/window/Prompts.h"
+#include "ui_frmcadastro_clientes.h"
+
+namespace {
+constexpr int hourglass = 11;
+constexpr int usualPointer = 0;
+constexpr quint16 pictureWaits = 65535;
+} // namespace
+
+CustomerPhoto::CustomerPhoto(Form &form, Ui::frmcadastro_clientes &window, CustomerState &state)
+    : QObject(&form), m_form(form), ui(window), m_state(state)
+{
+    connect(ui.cmdwebcam, &QPushButton::clicked, this, &CustomerPhoto::cmdwebcam_Click);
+    connect(ui.cmdadd, &QPushButton::clicked, this, &CustomerPhoto::cmdadd_Click);
+    connect(ui.cmdremover, &QPushButton::clicked, this, &CustomerPhoto::cmdremover_Click);
+}
+
+void CustomerPhoto::forget()
+{
+    m_state.FotoWebcam = 0;
+    m_state.CaminhoFoto = Placeholder::NoPhoto;
+    ui.imgfoto->showNobody();
+    OnErrorResumeNext([] {
+        if (Existe_Arquivo(caminhoFototemp()))
+            Kill(caminhoFototemp());
+    });
+}
+
+void CustomerPhoto::keepWebcamPicture(double codigo)
+{
+    if (m_state.FotoWebcam != pictureWaits)
+        return;
+    const QString target = Pasta_Do_Arquivo(CaminhoBD) + "\\Fotos\\" + Cstr(codigo) + ".jpg";
+    if (Existe_Arquivo(target))
+        Kill(target);
+    FileCopy(caminhoFototemp(), target);
+    m_state.CaminhoFoto = target;
+}
+
+void CustomerPhoto::cmdwebcam_Click()
+{
+    m_form.setMousePointer(hourglass);
+    // Set before anything was captured, and left so by a cancelled capture: the next save then fails. It stays.
+    m_state.FotoWebcam = pictureWaits;
+    auto &window = Forms::use<frmwebcam>();
+    connect(&window, &frmwebcam::confirmed, this, &CustomerPhoto::showWebcamPicture, Qt::UniqueConnection);
+    window.Show();
+    m_form.setMousePointer(usualPointer);
+}
+
+void CustomerPhoto::showWebcamPicture(const QString &file)
+{
+    OnErrorResumeNext([&] { ui.imgfoto->showFile(file); });
+}
+
+void CustomerPhoto::cmdadd_Click()
+{
+    m_state.FotoWebcam = 0;
+    FileDialog caixa_dialogo;
+    caixa_dialogo.InitDir = Pasta_Do_Arquivo(CaminhoBD) + "\\Fotos";
+    caixa_dialogo.Filter = "Todas as imagens(*.*) |*.bmp;*.jpg;*.gif| Arquivos JPG (*.jpg) |*.jpg|"
+                           "Arquivos GIF (*.gif) |*.gif|Bitmap (*.bmp) |*.bmp|";
+    caixa_dialogo.DialogTitle = "Foto do cliente";
+    caixa_dialogo.ShowOpen();
+    if (caixa_dialogo.FileName.isEmpty() || !Existe_Arquivo(caixa_dialogo.FileName))
+        return;
+    m_state.CaminhoFoto = caixa_dialogo.FileName;
+    if (!OnErrorResumeNext([&] { ui.imgfoto->showFile(caixa_dialogo.FileName); }))
+        customerTexts.notice("MsgBox26");
+}
+
+void CustomerPhoto::cmdremover_Click()
+{
+    forget();
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "data/Placeholders.h"
+
+#include <QString>
+
+/// What the customers' window remembers as long as it is open.
+struct CustomerState
+{
+    /// The customer under edit, as it was when the edit began.
+    double CodigoCliente = 0;
+    QString NomeAntigo;
+    QString NickAntigo;
+    /// Path of the photo that the next save stores.
+    QString CaminhoFoto = Placeholder::NoPhoto;
+    /// 65535 when the next save takes the photo of the camera.
+    quint16 FotoWebcam = 0;
+    /// 1 when the customer of the last save was authorised.
+    quint8 Autorizado = 0;
+    qint16 TotalClientes = 0;
+    /// Columns of the list: the last one clicked, and the one that it was last sorted by.
+    quint8 ColunaClicada = 0;
+    quint8 ColunaOrdenada = 0;
+    /// Rows of the list: the one picked last and the one under edit; 0 for none.
+    int LinhaSelecionada = 0;
+    int LinhaEditada = 0;
+};

@@ -1,0 +1,71 @@
+#include "customers/frmcadastro_clientes.h"
+
+#include "customers/CustomerEditing.h"
+#include "customers/CustomerForm.h"
+#include "customers/CustomerList.h"
+#include "customers/CustomerPhoto.h"
+#include "customers/CustomerPrintouts.h"
+#include "customers/CustomerRegistration.h"
+#include "customers/CustomerRemoval.h"
+#include "data/Acesso_BD.h"
+#include "ui_frmcadastro_clientes.h"
+
+namespace {
+constexpr int usualPointer = 0;
+}
+
+frmcadastro_clientes::frmcadastro_clientes() : ui(std::make_unique<Ui::frmcadastro_clientes>())
+{
+    ui->setupUi(this);
+    m_form = new CustomerForm(*ui, this);
+    m_photo = new CustomerPhoto(*this, *ui, m_state);
+    m_list = new CustomerList(*ui, m_state, this);
+    m_registration = std::make_unique<CustomerRegistration>(*ui, m_state, *m_form, *m_list, *m_photo);
+    m_editing = std::make_unique<CustomerEditing>(*ui, m_state, *m_form, *m_list, *m_photo);
+
+    connect(ui->cmdok, &QPushButton::clicked, this, [this] { m_registration->cmdok_Click(); });
+    connect(ui->cmdeditar, &QPushButton::clicked, this, &frmcadastro_clientes::Editar_Cliente);
+    connect(ui->cmdexcluir, &QPushButton::clicked, this, &frmcadastro_clientes::cmdexcluir_Click);
+    connect(ui->cmdimprimir, &QPushButton::clicked, this,
+            [this] { imprimirClientes(*ui->tab_clientes, m_state.TotalClientes); });
+    connect(ui->cmdsalvar, &QPushButton::clicked, this,
+            [this] { salvarClientes(*ui->tab_clientes, m_state.TotalClientes); });
+    connect(ui->cmdsair, &QPushButton::clicked, this, &frmcadastro_clientes::Unload);
+}
+
+frmcadastro_clientes::~frmcadastro_clientes() = default;
+
+void frmcadastro_clientes::Form_Load()
+{
+    m_state.LinhaEditada = 0;
+    m_state.LinhaSelecionada = 0;
+    Sempre_No_Topo(*this, true);
+    m_form->maskPostalCode();
+    m_state.ColunaOrdenada = 0;
+    if (ui->tab_clientes->Rows() >= 2)
+        m_list->Ordenar_Tabela("Codigo");
+    m_list->enableButtons();
+    Abrir_Banco_Principal();
+    m_form->selectFirstState();
+    m_form->Selecionar_Grupo_Padrao();
+    m_form->takeTownOfCafe();
+    if (ui->tab_clientes->Rows() >= 2)
+        m_state.LinhaSelecionada = 1;
+    m_form->Nick_Sequencial();
+    Fechar_Recordsets_Globais();
+    m_photo->forget();
+}
+
+void frmcadastro_clientes::Editar_Cliente()
+{
+    m_editing->cmdeditar_Click();
+}
+
+void frmcadastro_clientes::cmdexcluir_Click()
+{
+    if (excluirClientes(*this, *ui->tab_clientes, m_state)) {
+        m_form->clear();
+        Form_Load();
+    }
+    setMousePointer(usualPointer);
+}

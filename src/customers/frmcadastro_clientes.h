@@ -1,0 +1,43 @@
+#pragma once
+
+#include "customers/CustomerState.h"
+#include "platform/window/Form.h"
+
+#include <memory>
+
+class CustomerEditing;
+class CustomerForm;
+class CustomerList;
+class CustomerPhoto;
+class CustomerRegistration;
+namespace Ui {
+class frmcadastro_clientes;
+}
+
+/// Registers, edits, deletes, finds and prints customers.
+class frmcadastro_clientes : public Form
+{
+    Q_OBJECT
+
+public:
+    frmcadastro_clientes();
+    ~frmcadastro_clientes() override;
+
+    /// The same as a press on its button.
+    void Editar_Cliente();
+
+protected:
+    /// Runs again after a deletion.
+    void Form_Load() override;
+
+private:
+    void cmdexcluir_Click();
+
+    std::unique_ptr<Ui::frmcadastro_clientes> ui;
+    CustomerState m_state;
+    CustomerForm *m_form;
+    CustomerPhoto *m_photo;
+    CustomerList *m_list;
+    std::unique_ptr<CustomerRegistration> m_registration;
+    std::unique_ptr<CustomerEditing> m_editing;
+};
