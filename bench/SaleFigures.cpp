@@ -2,12 +2,10 @@
 
 #include "bench/BareFile.h"
 #include "bench/Figures.h"
+#include "bench/Program.h"
 #include "cafe/Cafe.h"
-#include "configuration/Globais.h"
-#include "configuration/Idiomas.h"
 #include "data/Acesso_BD.h"
 #include "platform/window/Forms.h"
-#include "platform/window/Prompts.h"
 #include "sale/ProductRules.h"
 #include "sale/frmvenda.h"
 #include "tests/support/Controls.h"
@@ -20,26 +18,12 @@
 namespace {
 constexpr int cartLines = 10;
 
-/// Says yes to everything.
-class Yes : public PromptService
-{
-public:
-    int message(const QString &, int style, const QString &) override { return style & vbYesNo ? vbYes : vbOK; }
-    QString openFile(const FileDialog &) override { return {}; }
-    QString saveFile(const FileDialog &) override { return {}; }
-};
-
 /// The sale window on one café.
 class Counter
 {
 public:
-    explicit Counter(const QString &cafe)
+    explicit Counter(const QString &cafe) : m_program(cafe)
     {
-        CaminhoBD = dataFileOf(cafe);
-        NomeIdioma = "PORTUGUES.LNG";
-        SimboloMoeda = "R$";
-        Carregar_Idioma();
-        PromptService::use(&m_yes);
         window().Show();
         QCoreApplication::processEvents();
         control<QCheckBox>(window(), "chkrecibo").setChecked(false);
@@ -49,14 +33,6 @@ public:
         for (; m_products.size() < cartLines; rs->MoveNext())
             m_products += rs->Fields(0).text();
     }
-    ~Counter()
-    {
-        window().Unload();
-        Fechar_BD(BancoPrincipal);
-        PromptService::use(nullptr);
-    }
-    Counter(const Counter &) = delete;
-    Counter &operator=(const Counter &) = delete;
 
     frmvenda &window() { return Forms::use<frmvenda>(); }
     const QStringList &products() const { return m_products; }
@@ -70,7 +46,7 @@ public:
     }
 
 private:
-    Yes m_yes;
+    Program m_program;
     QStringList m_products;
 };
 

@@ -1,3 +1,4 @@
+#include "bench/CustomerFigures.h"
 #include "bench/Figures.h"
 #include "bench/SaleFigures.h"
 #include "bench/StartFigures.h"
@@ -46,6 +47,7 @@ int main(int argc, char **argv)
         FigureTable table;
         addStartFigures(table, small);
         addSaleFigures(table, small, large);
+        addCustomerFigures(table, large);
         return table.allWithinLimits() ? 0 : 1;
     } catch (const std::exception &error) {
         QTextStream(stderr) << error.what() << '\n';

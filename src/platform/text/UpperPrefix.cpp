@@ -4,6 +4,7 @@ namespace {
 /// Beyond these letters, and at this one among them, a capital may be longer than its small letter.
 constexpr char16_t lastSimpleLetter = 0x017f;
 constexpr char16_t sharpS = 0x00df;
+constexpr char16_t firstSmallLetter = 'a';
 } // namespace
 
 bool UpperPrefix::begins(const QString &text) const
@@ -16,7 +17,7 @@ bool UpperPrefix::begins(const QString &text) const
         if (*letter != wanted) {
             if (*letter > lastSimpleLetter || *letter == sharpS)
                 return text.toUpper().startsWith(m_term);
-            if (letter->toUpper() != wanted)
+            if (*letter < firstSmallLetter || letter->toUpper() != wanted)
                 return false;
         }
         ++letter;
