@@ -46,15 +46,11 @@ void Tour::prepareMachine()
     Machine &machine = Machine::current();
     machine.programFolder = [this] { return m_programFolder.path(); };
     machine.playWave = [this](const QString &path) { m_sounds += path; };
+    machine.camera = [this] { return m_camera; };
     machine.printerNames = [] { return QStringList(); };
     machine.defaultPrinterName = [] { return QString(); };
     machine.printoutFolder = [this] { return m_folder; };
     machine.openDocument = [](const QString &) {};
-}
-
-QString Tour::cafe() const
-{
-    return m_folder + "/cafe";
 }
 
 void Tour::chapter(const QString &title) const
@@ -66,7 +62,7 @@ void Tour::picture(QWidget &window, const QString &name)
 {
     QCoreApplication::processEvents();
     const QString file = QString("%1-%2.png").arg(++m_pictures, 2, 10, QChar('0')).arg(name);
-    if (!window.grab().save(m_folder + '/' + file))
+    if (!window.grab().save(path(file)))
         fail("The picture " + file + " could not be written.");
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/jet/Database.h"
 #include "tests/support/Attendant.h"
+#include "tests/support/FakeCamera.h"
 
 #include <QString>
 #include <QStringList>
@@ -20,7 +21,10 @@ public:
     ~Tour();
 
     Attendant &attendant() { return m_attendant; }
-    QString cafe() const;
+    FakeCamera &camera() { return *m_camera; }
+    QString cafe() const { return path("cafe"); }
+    /// Path of a file in the tour's folder.
+    QString path(const QString &name) const { return m_folder + '/' + name; }
 
     void chapter(const QString &title) const;
     /// Saves a window as a numbered PNG.
@@ -47,6 +51,7 @@ private:
     QString m_folder;
     QTemporaryDir m_programFolder;
     Attendant m_attendant;
+    std::shared_ptr<FakeCamera> m_camera = std::make_shared<FakeCamera>();
     DatabaseHandle m_database;
     QStringList m_sounds;
     int m_pictures = 0;

@@ -1,6 +1,7 @@
 #include "platform/base/Err.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Application.h"
+#include "tour/Customers.h"
 #include "tour/ProductSales.h"
 #include "tour/Tour.h"
 
@@ -20,6 +21,7 @@ int main(int argc, char **argv)
     try {
         Tour tour(arguments.at(1));
         tourProductSales(tour);
+        tourCustomers(tour);
         tour.chapter("What the data file holds");
         tour.tellStoredSales();
         tour.attendant().finish();
