@@ -9,6 +9,7 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 
 namespace {
@@ -24,6 +25,20 @@ void loadSmaller(QImageReader &reader)
     const QSize size = reader.size();
     if (size.width() > largestSize.width() || size.height() > largestSize.height())
         reader.setScaledSize(size.scaled(largestSize, Qt::KeepAspectRatio).expandedTo({1, 1}));
+}
+
+QPixmap drawPicture(const QString &name, QSize size, const QColor &ink, qreal scale)
+{
+    QFile file(":/pictures/" + name + ".svg");
+    if (!file.open(QIODevice::ReadOnly))
+        throw RunTimeError(ErrorNumber::InvalidPicture, "No such picture: " + name);
+    QSvgRenderer renderer(file.readAll().replace("currentColor", ink.name().toLatin1()));
+    QPixmap picture((QSizeF(size) * scale).toSize());
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    renderer.render(&painter, QRectF(QPointF(), QSizeF(size)));
+    return picture;
 }
 } // namespace
 
@@ -47,17 +62,14 @@ QPixmap LoadPicture(const QString &path)
 
 QPixmap bundledPicture(const QString &name, QSize size)
 {
-    QFile file(":/pictures/" + name + ".svg");
-    if (!file.open(QIODevice::ReadOnly))
-        throw RunTimeError(ErrorNumber::InvalidPicture, "No such picture: " + name);
     const QColor ink = QGuiApplication::palette().color(QPalette::WindowText);
-    QSvgRenderer renderer(file.readAll().replace("currentColor", ink.name().toLatin1()));
-
     const qreal scale = qGuiApp->devicePixelRatio();
-    QPixmap picture((QSizeF(size) * scale).toSize());
-    picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    renderer.render(&painter, QRectF(QPointF(), QSizeF(size)));
+    const QString key = QString("%1 %2 %3x%4 %5").arg(name, ink.name()).arg(size.width()).arg(size.height()).arg(scale);
+    QPixmap picture;
+    // A search changes the picture of its button; drawing it took a good part of the search's time.
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = drawPicture(name, size, ink, scale);
+        QPixmapCache::insert(key, picture);
+    }
     return picture;
 }
