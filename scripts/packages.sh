@@ -2,7 +2,7 @@
 
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev libqt6svg6-dev qt6-multimedia-dev libsqlcipher-dev libturbojpeg0-dev"
 program_packages="qt6-translations-l10n fonts-liberation gstreamer1.0-plugins-good xdg-utils"
-test_packages="git clang-format clang-tidy poppler-utils"
+test_packages="git clang-format clang-tidy poppler-utils zbar-tools"
 
 # install_packages NAME...: installs what is missing, with sudo when not root.
 install_packages() {

@@ -74,14 +74,7 @@ void CustomerForm::connectEnterChain()
 void CustomerForm::connectGroup()
 {
     connect(ui.cmbgrupo_clientes, &ComboBox::Click, this, &CustomerForm::showDiscount);
-    connect(ui.cmbgrupo_clientes, &ComboBox::KeyPress, this, [](int &KeyAscii) {
-        if (KeyAscii != vbKeyReturn)
-            KeyAscii = 0;
-    });
-    connect(ui.cmbgrupo_clientes, &ComboBox::KeyDown, this, [](int &KeyCode) {
-        if (KeyCode == vbKeyBack || KeyCode == vbKeyDelete)
-            KeyCode = 0;
-    });
+    takesEntriesOnly(ui.cmbgrupo_clientes);
 }
 
 bool CustomerForm::testar_valores()

@@ -13,8 +13,6 @@ const QString reportRule(98, '*');
 
 namespace {
 constexpr int fullPage = 59;
-constexpr int a4Width = 11906; ///< twips
-constexpr int a4Height = 16838;
 
 QString momentText()
 {

@@ -13,6 +13,10 @@ enum class ScaleMode
     Characters, ///< 120 twips across, 240 twips down
 };
 
+/// Dimensions of the A4 sheet, in twips.
+constexpr int a4Width = 11906;
+constexpr int a4Height = 16838;
+
 /// The printer in force. Pages are recorded as texts and boxes, and painted once, when the document ends.
 ///
 /// With no printer installed the document becomes a PDF in the folder for printouts, named after the document, and is
@@ -53,6 +57,8 @@ public:
     /// Fills a box given in the current scale.
     void FillBox(const QRectF &box);
 
+    /// The sheet comes out even if nothing is put on it.
+    void StartPage() { page().started = true; }
     void NewPage();
     /// Prints what was recorded. Raises PrinterError when the device refuses; the record is gone in any case.
     void EndDoc();
@@ -71,8 +77,8 @@ private:
     QString m_documentName;
     QFont m_font;
     ScaleMode m_scaleMode = ScaleMode::Twips;
-    int m_pageWidth = 11906; ///< A4
-    int m_pageHeight = 16838;
+    int m_pageWidth = a4Width;
+    int m_pageHeight = a4Height;
     double m_currentX = 0;
     double m_currentY = 0;
     QList<RecordedPage> m_pages;

@@ -29,6 +29,7 @@ struct RecordedPage
 {
     QList<RecordedText> texts;
     QList<RecordedBox> boxes;
+    bool started = false;
 
-    bool isEmpty() const { return texts.isEmpty() && boxes.isEmpty(); }
+    bool isEmpty() const { return !started && texts.isEmpty() && boxes.isEmpty(); }
 };

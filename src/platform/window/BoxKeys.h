@@ -25,3 +25,17 @@ void selectOnEntry(Box *box)
         DoEvents(WaitingInput::Stays);
     });
 }
+
+/// Nothing is typed into a list: keys but Enter are dropped, and the entry can't be deleted.
+template <typename Combo>
+void takesEntriesOnly(Combo *combo)
+{
+    QObject::connect(combo, &Combo::KeyPress, combo, [](int &KeyAscii) {
+        if (KeyAscii != vbKeyReturn)
+            KeyAscii = 0;
+    });
+    QObject::connect(combo, &Combo::KeyDown, combo, [](int &KeyCode) {
+        if (KeyCode == vbKeyBack || KeyCode == vbKeyDelete)
+            KeyCode = 0;
+    });
+}

@@ -1,0 +1,51 @@
+#include "codes/CodeLabel.h"
+
+#include "codes/LabelSheet.h"
+#include "codes/frmetiquetas.h"
+#include "data/Funcoes.h"
+#include "platform/base/Err.h"
+#include "platform/print/Printer.h"
+#include "platform/window/Forms.h"
+
+namespace {
+constexpr int hourglass = 11;
+constexpr int usualPointer = 0;
+constexpr int moduleTwips = 18;
+constexpr double barTwips = 700;
+
+LabelChoice askForLabel()
+{
+    LabelChoice answer;
+    auto &window = Forms::use<frmetiquetas>();
+    // Cuts the connection when the wait is over.
+    const QObject waiting;
+    QObject::connect(&window, &frmetiquetas::confirmed, &waiting,
+                     [&answer](const LabelChoice &choice) { answer = choice; });
+    window.setEtiqueta_Em_Andamento(true);
+    window.Show();
+    Sempre_No_Topo(window, true);
+    Aguardar_Form(window.Name());
+    return answer;
+}
+} // namespace
+
+void printCodeLabel(Form &opener, const QString &code)
+{
+    const LabelChoice choice = askForLabel();
+    opener.setMousePointer(hourglass);
+    if (choice.Coluna_Inicial > 0 && choice.Linha_Inicial > 0) {
+        OnErrorResumeNext(
+            [&] {
+                Imprimir_Barras({.tipo = "128",
+                                 .modulo = moduleTwips,
+                                 .altura = barTwips,
+                                 .textos = {code},
+                                 .mostrar_numero = choice.Mostrar_Numero,
+                                 .mostrar_barras = choice.Mostrar_Barras,
+                                 .linha = choice.Linha_Inicial,
+                                 .coluna = choice.Coluna_Inicial});
+            },
+            [] { Printer::current().EndDoc(); }, [] { Restaurar_Escala_Impressora(); });
+    }
+    opener.setMousePointer(usualPointer);
+}
