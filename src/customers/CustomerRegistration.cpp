@@ -1,5 +1,6 @@
 #include "customers/CustomerRegistration.h"
 
+#include "codes/frmcodigo_rapido.h"
 #include "customers/CustomerForm.h"
 #include "customers/CustomerList.h"
 #include "customers/CustomerPhoto.h"
@@ -11,12 +12,13 @@
 #include "data/Funcoes.h"
 #include "platform/base/Machine.h"
 #include "platform/text/Dates.h"
+#include "platform/window/Forms.h"
 #include "platform/window/Prompts.h"
 #include "ui_frmcadastro_clientes.h"
 
-CustomerRegistration::CustomerRegistration(Ui::frmcadastro_clientes &window, CustomerState &state, CustomerForm &form,
-                                           CustomerList &list, CustomerPhoto &photo)
-    : ui(window), m_state(state), m_form(form), m_list(list), m_photo(photo)
+CustomerRegistration::CustomerRegistration(Form &window, Ui::frmcadastro_clientes &controls, CustomerState &state,
+                                           CustomerForm &form, CustomerList &list, CustomerPhoto &photo)
+    : m_window(window), ui(controls), m_state(state), m_form(form), m_list(list), m_photo(photo)
 {
 }
 
@@ -32,9 +34,7 @@ void CustomerRegistration::cmdok_Click()
     OnErrorGoToEnd([&] {
         if (isNameTaken(ui) || isNickTaken(ui) || isDocumentTaken(ui))
             return;
-        double codigo = 1;
-        readFirstRow("Select Max(codigo) From Clientes",
-                     [&](const Recordset &rs) { codigo = rs.Fields(0).number() + 1; });
+        const double codigo = keyBehind("Select Max(codigo) From Clientes");
         checkedTheDate = fillPlaceholders();
         if (!checkedTheDate || isBornLater())
             return;
@@ -72,6 +72,7 @@ bool CustomerRegistration::isBornLater()
 void CustomerRegistration::store(double codigo)
 {
     const QString name = ui.txtnome->text().toUpper();
+    const QString nick = ui.txtnick->text().toUpper();
     m_state.Autorizado = ui.chkautorização->isChecked() ? 1 : 0;
     m_photo.keepWebcamPicture(codigo);
     executeStatement(insertStatement(ui, m_state, codigo));
@@ -84,6 +85,20 @@ void CustomerRegistration::store(double codigo)
     ui.txtnome->setFocus();
     m_form.takeTownOfCafe();
     m_list.countAdded();
-    if (customerTexts.confirms("MsgBox21", "MsgBox13_2", vbInformation) && Tem_Link(name))
+    if (customerTexts.confirms("MsgBox21", "MsgBox13_2", vbInformation))
+        sellCode(name, nick);
+}
+
+void CustomerRegistration::sellCode(const QString &name, const QString &nick)
+{
+    if (Tem_Link(name)) {
         customerTexts.notice("MsgBox3");
+        return;
+    }
+    Sempre_No_Topo(m_window, false);
+    auto &window = Forms::use<frmcodigo_rapido>();
+    window.Venda_ao_Cliente(name, nick);
+    window.Show();
+    Sempre_No_Topo(window, true);
+    m_form.Nick_Sequencial();
 }

@@ -18,6 +18,14 @@ bool readFirstRow(const QString &sql, Read read)
     return found;
 }
 
+/// The key that follows the highest one, which the query asks for; 1 in an empty table.
+inline double keyBehind(const QString &sql)
+{
+    double key = 1;
+    readFirstRow(sql, [&](const Recordset &rs) { key = rs.Fields(0).number() + 1; });
+    return key;
+}
+
 inline bool hasRow(const QString &sql)
 {
     return readFirstRow(sql, [](const Recordset &) {});

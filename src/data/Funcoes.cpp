@@ -94,6 +94,12 @@ void Tocar_Som(const QString &path)
         OnErrorResumeNext([&] { sndPlaySound(path, SND_ASYNC); });
 }
 
+void Tocar_Caixa()
+{
+    if (Ler_INI(caminhoConfig(), "Som", "Caixa Reg") != "0")
+        Tocar_Som(Pasta_Do_Arquivo(CaminhoBD) + "\\Caixa.wav");
+}
+
 QString Simbolo_Moeda_Regional()
 {
     return FormatCurrency(0, 0).remove('0').trimmed();

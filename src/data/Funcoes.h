@@ -28,6 +28,9 @@ double Valor_Proporcional(double share, double base, double value);
 /// Plays a wave file unless the café is silenced.
 void Tocar_Som(const QString &path);
 
+/// The till's own sound.
+void Tocar_Caixa();
+
 /// Currency symbol of the region.
 QString Simbolo_Moeda_Regional();
 

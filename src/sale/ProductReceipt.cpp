@@ -1,12 +1,12 @@
 #include "sale/ProductReceipt.h"
 
+#include "checkout/Amounts.h"
+#include "checkout/SaleDiscount.h"
+#include "checkout/SaleReceipt.h"
 #include "configuration/Globais.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
-#include "sale/Amounts.h"
 #include "sale/SaleCart.h"
-#include "sale/SaleDiscount.h"
-#include "sale/SaleReceipt.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
 
@@ -80,11 +80,7 @@ void printProductReceipt(const Ui::frmvenda &window, const SaleDiscount &discoun
         content.customer = window.txtnome->text();
     content.total = window.lbltotal->Caption().toUpper();
     content.discount = discount.Texto_Desconto;
-    content.motive = [&discount] {
-        QString motive;
-        OnErrorResumeNext([&] { discount.Validar_Motivo(discount.motiveCode(), motive); });
-        return motive;
-    };
+    content.motive = [&discount] { return discount.chosenMotive(); };
     OnErrorResumeNext([&] { content.paid = shownAmount(window.txtvalor_pago->text()); });
     content.change = window.lbltroco->Caption();
     content.details = [&](SaleReceipt &receipt) { printDetails(receipt, content, *window.tab_consumo); };

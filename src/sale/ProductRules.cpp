@@ -1,7 +1,7 @@
 #include "sale/ProductRules.h"
 
+#include "checkout/SaleDiscount.h"
 #include "data/Acesso_BD.h"
-#include "sale/SaleDiscount.h"
 
 QStringList productRuleConditions(const QString &group, const QString &category)
 {

@@ -1,11 +1,11 @@
 #include "sale/SaleCart.h"
 
+#include "checkout/Amounts.h"
+#include "checkout/SaleDiscount.h"
 #include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/KeyCodes.h"
-#include "sale/Amounts.h"
-#include "sale/SaleDiscount.h"
 #include "sale/SaleProducts.h"
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"

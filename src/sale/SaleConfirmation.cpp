@@ -1,9 +1,9 @@
 #include "sale/SaleConfirmation.h"
 
-#include "configuration/Arquivos.h"
-#include "configuration/Arquivos_INI.h"
+#include "checkout/Amounts.h"
+#include "checkout/SaleDiscount.h"
 #include "configuration/Globais.h"
-#include "data/Acesso_BD.h"
+#include "data/FirstRow.h"
 #include "data/Funcoes.h"
 #include "data/Placeholders.h"
 #include "platform/base/Err.h"
@@ -12,11 +12,9 @@
 #include "platform/text/Numbers.h"
 #include "platform/window/Form.h"
 #include "platform/window/Prompts.h"
-#include "sale/Amounts.h"
 #include "sale/ProductReceipt.h"
 #include "sale/ProductRules.h"
 #include "sale/SaleCart.h"
-#include "sale/SaleDiscount.h"
 #include "sale/SaleProducts.h"
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"
@@ -66,7 +64,7 @@ void SaleConfirmation::cmdfinalizar_Click()
     m_discount.Bloqueio_Desconto = true;
     const int answer = ask();
     // The rules are looked at after the question and before its answer, so a refusal comes even after a no.
-    if (ui.chkdesconto->isChecked() && ruleRefuses())
+    if (ui.chkdesconto->isChecked() && m_discount.ruleRefuses())
         return refuse("MsgBox16", ui.txtmotivo);
     if (categoryRefuses())
         return refuse("MsgBox17", ui.cmbprodutos);
@@ -87,14 +85,13 @@ bool SaleConfirmation::prepare()
         ui.txtvalor_pago->setText("0");
     if (ui.txtvalor_desconto->text().contains(' '))
         ui.txtvalor_desconto->setText(blanksAsZeros(ui.txtvalor_desconto->text()));
-    m_state.Motivo_Venda.clear();
     if (ui.tab_consumo->Rows() < 2)
         return refused("MsgBox8", ui.cmbprodutos);
     if (m_state.Debito_Venda == 0 && !paysEnough())
         return refused("MsgBox9", ui.txtvalor_pago);
     if (ui.chkdesconto->isChecked() && discountExceedsTotal())
         return refused("MsgBox10", ui.txtvalor_desconto);
-    if (!takeMotive())
+    if (!m_discount.takeMotive(m_state.Motivo_Venda))
         return refused("MsgBox11", ui.txtmotivo);
     if (!takeBuyer())
         return refused("MsgBox12", ui.txtnome);
@@ -113,22 +110,6 @@ bool SaleConfirmation::discountExceedsTotal() const
     // Val stops at the comma, so the cents of a typed discount don't count here; that stays.
     const double typed = Val(QStringView(ui.txtvalor_desconto->text()));
     return shownAmount(m_discount.Total_Venda) - shownAmount(typed) < 0;
-}
-
-bool SaleConfirmation::takeMotive()
-{
-    if (ui.chkdesconto->isChecked()) {
-        if (m_discount.Valor_Desconto != 0) {
-            OnErrorResumeNext([&] { m_discount.Validar_Motivo(m_discount.motiveCode(), m_state.Motivo_Venda); });
-            if (m_state.Motivo_Venda.isEmpty())
-                return false;
-        } else {
-            ui.txtvalor_desconto->setText("0");
-        }
-    }
-    if (m_state.Motivo_Venda.isEmpty())
-        m_state.Motivo_Venda = Placeholder::NoMotive;
-    return true;
 }
 
 bool SaleConfirmation::takeBuyer()
@@ -154,17 +135,6 @@ int SaleConfirmation::ask()
     return MsgBox(question, vbYesNo + vbInformation, attention);
 }
 
-bool SaleConfirmation::ruleRefuses() const
-{
-    bool refuses = false;
-    OnErrorResumeNext([&] {
-        const quint8 code = m_discount.motiveCode();
-        Desconto_Libera_Auto(code); // asked as ever, though nothing here depends on the answer
-        refuses = Desconto_Atendido(code, amountText(m_discount.Total_Venda));
-    });
-    return refuses;
-}
-
 bool SaleConfirmation::categoryRefuses() const
 {
     bool ruled = false;
@@ -179,7 +149,7 @@ void SaleConfirmation::store()
     Abrir_Banco_Principal();
     double sum = 0;
     for (int row = 1; row < ui.tab_consumo->Rows(); ++row) {
-        readNextCode();
+        m_state.Proximo_Codigo = keyBehind("Select Max(Codigo) From Venda_Produtos");
         storeLine(row, shareOf(row, sum));
         lowerStock(row);
         const QString description = cartText(row, CartColumn::Description).toUpper();
@@ -189,7 +159,7 @@ void SaleConfirmation::store()
     if (ui.optpago->isChecked()) {
         if (ui.chkrecibo->isChecked())
             printProductReceipt(ui, m_discount);
-        playTill();
+        Tocar_Caixa();
     }
     m_discount.Bloqueio_Desconto = false;
     m_form.setMousePointer(usualPointer);
@@ -197,18 +167,6 @@ void SaleConfirmation::store()
     if (!m_lowStock.isEmpty())
         MsgBox(saleTexts.loaded("String9") + "\n\n" + m_lowStock.join('\n') + "\n", vbInformation, attention);
     reset();
-}
-
-void SaleConfirmation::readNextCode()
-{
-    RecordsetHandle rs;
-    rs = Abrir_Recordset(rs, BancoPrincipal, "Select Max(Codigo) From Venda_Produtos");
-    m_state.Proximo_Codigo = 1;
-    OnErrorResumeNext([&] {
-        if (rs && !rs->Eof() && !rs->Fields(0).isNull())
-            m_state.Proximo_Codigo = rs->Fields(0).number() + 1;
-    });
-    Fechar_Recordset(rs);
 }
 
 double SaleConfirmation::shareOf(int row, double &sum) const
@@ -279,12 +237,6 @@ quint8 SaleConfirmation::Estoque_Minimo(const QString &descricao) const
         low = yesFlag;
     Fechar_Recordset(rs);
     return low;
-}
-
-void SaleConfirmation::playTill() const
-{
-    if (Ler_INI(caminhoConfig(), "Som", "Caixa Reg") != "0")
-        Tocar_Som(Pasta_Do_Arquivo(CaminhoBD) + "\\Caixa.wav");
 }
 
 void SaleConfirmation::reset()

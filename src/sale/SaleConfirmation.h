@@ -26,19 +26,15 @@ private:
     bool prepare();
     bool paysEnough() const;
     bool discountExceedsTotal() const;
-    bool takeMotive();
     bool takeBuyer();
     int ask();
-    bool ruleRefuses() const;
     bool categoryRefuses() const;
     void store();
-    void readNextCode();
     double shareOf(int row, double &sum) const;
     void storeLine(int row, double share);
     void lowerStock(int row);
     /// 255 for a stock product at or below its minimum.
     quint8 Estoque_Minimo(const QString &descricao) const;
-    void playTill() const;
     void reset();
     void refuse(const QString &key, class QWidget *focus);
     QString cartText(int row, int column) const;

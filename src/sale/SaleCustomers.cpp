@@ -1,10 +1,10 @@
 #include "sale/SaleCustomers.h"
 
+#include "checkout/SaleDiscount.h"
 #include "customers/CustomerColumns.h"
 #include "data/FirstRow.h"
 #include "platform/window/Forms.h"
 #include "platform/window/KeyCodes.h"
-#include "sale/SaleDiscount.h"
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"

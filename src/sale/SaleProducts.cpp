@@ -1,11 +1,11 @@
 #include "sale/SaleProducts.h"
 
+#include "checkout/SaleDiscount.h"
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
 #include "data/Placeholders.h"
 #include "platform/base/Err.h"
 #include "platform/window/BoxKeys.h"
-#include "sale/SaleDiscount.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
 

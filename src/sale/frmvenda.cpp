@@ -1,7 +1,9 @@
 #include "sale/frmvenda.h"
 
-#include "configuration/Arquivos.h"
-#include "configuration/Arquivos_INI.h"
+#include "checkout/Amounts.h"
+#include "checkout/ReceiptOptions.h"
+#include "checkout/SaleDiscount.h"
+#include "checkout/WriteThrough.h"
 #include "configuration/Globais.h"
 #include "customers/frmcadastro_clientes.h"
 #include "data/Acesso_BD.h"
@@ -10,26 +12,17 @@
 #include "platform/text/Numbers.h"
 #include "platform/window/Forms.h"
 #include "platform/window/KeyCodes.h"
-#include "platform/window/Pictures.h"
-#include "sale/Amounts.h"
 #include "sale/ProductRules.h"
 #include "sale/SaleCart.h"
 #include "sale/SaleConfirmation.h"
 #include "sale/SaleCustomers.h"
-#include "sale/SaleDiscount.h"
 #include "sale/SaleProducts.h"
 #include "sale/SaleTexts.h"
-#include "sale/frmconfig_recibo.h"
 #include "ui_frmvenda.h"
-
-namespace {
-constexpr QSize motivePictureSize(20, 20);
-} // namespace
 
 frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
 {
     ui->setupUi(this);
-    ui->imgdesconto->setPixmap(bundledPicture("imgdesconto", motivePictureSize));
     // The window behind this button is still to come.
     ui->cmdcadastro_produtos->setEnabled(false);
 
@@ -44,8 +37,8 @@ frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
     connect(ui->lbltotal, &Label::Change, this, &frmvenda::lbltotal_Change);
     connect(ui->lbltotal_final, &Label::Change, this, &frmvenda::lbltotal_final_Change);
     connectPayment();
-    connect(ui->chkrecibo, &QCheckBox::clicked, this, &frmvenda::chkrecibo_Click);
-    connect(ui->lblconfigurar_recibo, &Label::Click, this, &frmvenda::lblconfigurar_recibo_Click);
+    writeThrough(ui->chkrecibo, "Recibo Produtos", "Imprimir");
+    opensReceiptOptions(ui->lblconfigurar_recibo, ui->chkrecibo);
     connect(ui->cmdfinalizar, &QPushButton::clicked, this, [this] { m_confirmation->cmdfinalizar_Click(); });
     connect(ui->cmdcadastro_clientes, &QPushButton::clicked, this, &frmvenda::cmdcadastro_clientes_Click);
     connect(ui->cmdcancelar, &QPushButton::clicked, this, [this] {
@@ -84,8 +77,7 @@ void frmvenda::Form_Load()
 {
     ui->lbldescrição_venda_produtos->setText(saleTexts.loaded("String10"));
     Sempre_No_Topo(*this, true);
-    if (Ler_INI(caminhoConfig(), "Recibo Produtos", "Imprimir") == "1")
-        ui->chkrecibo->setChecked(true);
+    tickAsStored(ui->chkrecibo, "Recibo Produtos", "Imprimir");
     m_discount->Listar_Motivos_Descontos();
     Fechar_Recordsets_Globais();
     Listar_Clientes();
@@ -177,11 +169,6 @@ void frmvenda::showChange()
     ui->lbltroco->setCaption(change > 0 ? withSymbol(change) : noChangeText());
 }
 
-void frmvenda::chkrecibo_Click()
-{
-    Gravar_INI(caminhoConfig(), "Recibo Produtos", "Imprimir", ui->chkrecibo->isChecked() ? "1" : "0");
-}
-
 void frmvenda::cmdcadastro_clientes_Click()
 {
     DoEvents();
@@ -194,12 +181,4 @@ void frmvenda::cmdcadastro_clientes_Click()
         return;
     Listar_Clientes();
     DoEvents();
-}
-
-void frmvenda::lblconfigurar_recibo_Click()
-{
-    ui->chkrecibo->setChecked(true);
-    auto &window = Forms::use<frmconfig_recibo>();
-    window.Show();
-    Sempre_No_Topo(window, true);
 }

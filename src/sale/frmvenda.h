@@ -42,9 +42,7 @@ private:
     void lbltotal_final_Change();
     void txtvalor_pago_Change();
     void showChange();
-    void chkrecibo_Click();
     void cmdcadastro_clientes_Click();
-    void lblconfigurar_recibo_Click();
 
     std::unique_ptr<Ui::frmvenda> ui;
     SaleState m_state;

@@ -1,4 +1,4 @@
-#include "sale/Amounts.h"
+#include "checkout/Amounts.h"
 
 #include "configuration/Globais.h"
 #include "platform/text/Numbers.h"
@@ -27,6 +27,11 @@ double shownAmount(const QString &text)
 QString withSymbol(double value)
 {
     return SimboloMoeda + " " + amountText(value);
+}
+
+QString receiptAmount(double value)
+{
+    return SimboloMoeda + " " + Format(value, u"###,##0.00");
 }
 
 QString blanksAsZeros(QString text)

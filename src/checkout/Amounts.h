@@ -15,6 +15,9 @@ double shownAmount(const QString &text);
 /// The currency symbol in force, a blank, and the amount.
 QString withSymbol(double value);
 
+/// The same as receipts write it, with thousands apart.
+QString receiptAmount(double value);
+
 /// A text with each blank replaced by "0".
 QString blanksAsZeros(QString text);
 

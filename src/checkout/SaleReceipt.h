@@ -1,6 +1,6 @@
 #pragma once
 
-#include "sale/ReceiptDevice.h"
+#include "checkout/ReceiptDevice.h"
 
 #include <QString>
 

@@ -1,5 +1,6 @@
-#include "sale/SaleDiscount.h"
+#include "checkout/SaleDiscount.h"
 
+#include "checkout/Amounts.h"
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Idiomas.h"
@@ -10,13 +11,15 @@
 #include "platform/text/Numbers.h"
 #include "platform/window/ComboBox.h"
 #include "platform/window/Label.h"
+#include "platform/window/Pictures.h"
 #include "platform/window/Prompts.h"
 #include "platform/window/TextBox.h"
-#include "sale/Amounts.h"
 
 #include <QCheckBox>
 
 namespace {
+constexpr QSize motivePictureSize(20, 20);
+
 bool isAboveZero(const FieldValue &value)
 {
     return !value.isNull() && value.number() > 0;
@@ -26,6 +29,7 @@ bool isAboveZero(const FieldValue &value)
 SaleDiscount::SaleDiscount(const Controls &controls, const Texts &texts, QObject *parent)
     : QObject(parent), ui(controls), m_texts(texts)
 {
+    ui.imgdesconto->setPixmap(bundledPicture("imgdesconto", motivePictureSize));
     connect(ui.chkdesconto, &QCheckBox::clicked, this, &SaleDiscount::chkdesconto_Click);
     connect(ui.txtvalor_desconto, &TextBox::Change, this, &SaleDiscount::recalculate);
     connect(ui.txtvalor_desconto, &TextBox::GotFocus, this, &SaleDiscount::recalculate);
@@ -113,6 +117,36 @@ void SaleDiscount::Validar_Motivo(quint8 codigo, QString &motivo) const
     });
 }
 
+QString SaleDiscount::chosenMotive() const
+{
+    QString motive;
+    OnErrorResumeNext([&] { Validar_Motivo(motiveCode(), motive); });
+    return motive;
+}
+
+bool SaleDiscount::takeMotive(QString &motivo)
+{
+    motivo = Placeholder::NoMotive;
+    if (Valor_Desconto == 0) {
+        if (ui.chkdesconto->isChecked())
+            ui.txtvalor_desconto->setText("0");
+        return true;
+    }
+    motivo = chosenMotive();
+    return !motivo.isEmpty();
+}
+
+bool SaleDiscount::ruleRefuses() const
+{
+    bool refuses = false;
+    OnErrorResumeNext([&] {
+        const quint8 code = motiveCode();
+        Desconto_Libera_Auto(code); // asked as ever, though nothing here depends on the answer
+        refuses = Desconto_Atendido(code, amountText(Total_Venda));
+    });
+    return refuses;
+}
+
 quint8 SaleDiscount::motiveCode() const
 {
     const double code = Val(QStringView(ui.txtmotivo->currentText()));
@@ -171,9 +205,8 @@ void SaleDiscount::chkdesconto_Click()
 
 void SaleDiscount::imgdesconto_Click() const
 {
-    QString motive;
     const QString code = ui.txtmotivo->currentText();
-    OnErrorResumeNext([&] { Validar_Motivo(motiveCode(), motive); });
+    const QString motive = chosenMotive();
     const QString text =
         motive.isEmpty() ? code + textoIdioma(m_texts.section, m_texts.unknownMotive) : code + " - " + motive;
     MsgBox(text, vbInformation, textoIdioma(m_texts.section, m_texts.motiveTitle));

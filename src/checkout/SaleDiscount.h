@@ -61,6 +61,16 @@ public:
     /// The motive of a rule: empty without such a rule, eleven hyphens without any rule in the combo.
     void Validar_Motivo(quint8 codigo, QString &motivo) const;
 
+    /// The motive of the rule in the combo.
+    QString chosenMotive() const;
+
+    /// The motive that is stored with the sale: eleven hyphens without a discount. False for a discount whose motive
+    /// has no text.
+    bool takeMotive(QString &motivo);
+
+    /// Whether the rule in the combo refuses the total.
+    bool ruleRefuses() const;
+
     /// Number of the rule in the combo, as a byte. Raises for a number that is none.
     quint8 motiveCode() const;
 

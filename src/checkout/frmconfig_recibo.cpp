@@ -1,4 +1,4 @@
-#include "sale/frmconfig_recibo.h"
+#include "checkout/frmconfig_recibo.h"
 
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"

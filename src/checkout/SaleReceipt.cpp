@@ -1,5 +1,6 @@
-#include "sale/SaleReceipt.h"
+#include "checkout/SaleReceipt.h"
 
+#include "checkout/Amounts.h"
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
@@ -26,11 +27,6 @@ double nextNumber(const QString &stored)
 {
     const double next = Val(QStringView(stored)) + 1;
     return next > highestNumber ? 1 : next;
-}
-
-QString receiptAmount(double value)
-{
-    return SimboloMoeda + " " + Format(value, u"###,##0.00");
 }
 } // namespace
 

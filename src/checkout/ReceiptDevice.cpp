@@ -1,4 +1,4 @@
-#include "sale/ReceiptDevice.h"
+#include "checkout/ReceiptDevice.h"
 
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
