@@ -1,6 +1,7 @@
 #include "platform/base/Err.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Application.h"
+#include "tour/Codes.h"
 #include "tour/Customers.h"
 #include "tour/ProductSales.h"
 #include "tour/Tour.h"
@@ -22,6 +23,7 @@ int main(int argc, char **argv)
         Tour tour(arguments.at(1));
         tourProductSales(tour);
         tourCustomers(tour);
+        tourCodes(tour);
         tour.chapter("What the data file holds");
         tour.tellStoredSales();
         tour.attendant().finish();

@@ -4,6 +4,8 @@ struct CustomerState;
 class CustomerForm;
 class CustomerList;
 class CustomerPhoto;
+class Form;
+class QString;
 namespace Ui {
 class frmcadastro_clientes;
 }
@@ -12,8 +14,8 @@ class frmcadastro_clientes;
 class CustomerRegistration
 {
 public:
-    CustomerRegistration(Ui::frmcadastro_clientes &window, CustomerState &state, CustomerForm &form, CustomerList &list,
-                         CustomerPhoto &photo);
+    CustomerRegistration(Form &window, Ui::frmcadastro_clientes &controls, CustomerState &state, CustomerForm &form,
+                         CustomerList &list, CustomerPhoto &photo);
 
     void cmdok_Click();
 
@@ -23,7 +25,10 @@ private:
     /// Whether the birth date is still to come, which is told.
     bool isBornLater();
     void store(double codigo);
+    /// Opens the window that sells an access code, unless the customer has one.
+    void sellCode(const QString &name, const QString &nick);
 
+    Form &m_window;
     Ui::frmcadastro_clientes &ui;
     CustomerState &m_state;
     CustomerForm &m_form;

@@ -20,7 +20,7 @@ frmcadastro_clientes::frmcadastro_clientes() : ui(std::make_unique<Ui::frmcadast
     m_form = new CustomerForm(*ui, this);
     m_photo = new CustomerPhoto(*this, *ui, m_state);
     m_list = new CustomerList(*ui, m_state, this);
-    m_registration = std::make_unique<CustomerRegistration>(*ui, m_state, *m_form, *m_list, *m_photo);
+    m_registration = std::make_unique<CustomerRegistration>(*this, *ui, m_state, *m_form, *m_list, *m_photo);
     m_editing = std::make_unique<CustomerEditing>(*ui, m_state, *m_form, *m_list, *m_photo);
 
     connect(ui->cmdok, &QPushButton::clicked, this, [this] { m_registration->cmdok_Click(); });

@@ -20,6 +20,7 @@ FakeMachine::FakeMachine() : m_printoutFolder(m_folder.filePath("printouts")), m
         if (whileAsleep)
             std::exchange(whileAsleep, nullptr)();
     };
+    machine.random = [this] { return random(); };
     machine.playWave = [this](const QString &path) { sounds.append(path); };
     machine.portDevice = [this](int port) { return portDevices.value(port); };
     machine.printerNames = [this] { return printerNames; };

@@ -19,6 +19,7 @@ public:
 
     QDateTime clock{QDate(2024, 3, 15), QTime(14, 30, 5)};
     QList<int> sleeps;
+    std::function<double()> random = [] { return 0.5; };
     /// Runs once, in the next sleep.
     std::function<void()> whileAsleep;
     QStringList sounds;

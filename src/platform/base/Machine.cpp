@@ -3,8 +3,11 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QThread>
+
+#include <chrono>
 
 namespace {
 /// Runs a program beside this one, without waiting and without its words on our terminal. False when it isn't there.
@@ -40,6 +43,12 @@ QString parallelPortDevice(int port)
     return {};
 }
 
+double randomNumber()
+{
+    const auto moment = std::chrono::high_resolution_clock::now().time_since_epoch().count();
+    return QRandomGenerator(static_cast<quint32>(moment)).generateDouble();
+}
+
 QString documentsSubfolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + "/Morvelane";
@@ -51,6 +60,7 @@ Machine::Machine()
     : programFolder(QCoreApplication::applicationDirPath)
     , now(QDateTime::currentDateTime)
     , sleep([](int milliseconds) { QThread::msleep(static_cast<unsigned long>(milliseconds)); })
+    , random(randomNumber)
     , playWave(playWaveInChild)
     , portDevice(parallelPortDevice)
     , printerNames([] { return QStringList(); })

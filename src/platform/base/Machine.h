@@ -20,6 +20,8 @@ struct Machine
     std::function<QString()> programFolder;
     std::function<QDateTime()> now;
     std::function<void(int milliseconds)> sleep;
+    /// A number from 0 up to 1, from a generator that is seeded from the clock anew for each.
+    std::function<double()> random;
     /// Starts to play a wave file and returns at once; never waits for a sound server.
     std::function<void(const QString &path)> playWave;
     /// Device file behind printer port LPT<n>; an empty text when the computer has no such device.

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+class Form;
+struct CodeState;
+namespace Ui {
+class frmcodigo_rapido;
+}
+
+/// Creates access codes and links them to customers.
+class CodeCreation
+{
+public:
+    CodeCreation(Form &form, Ui::frmcodigo_rapido &window, CodeState &state);
+
+    /// Twelve digits from 0 to 8.
+    static QString randomCode();
+    /// Puts zeros in front of the code in its box until it has twelve characters.
+    void pad();
+
+    /// Stores the code in the boxes. `ok` is 255 when nothing refused it, though the statement itself may have failed
+    /// unseen.
+    void Cadastrar_Codigo(quint8 &ok);
+    /// Gives a stored code to a customer; a failure ends it without a word.
+    void Vincular_Codigo(const QString &codigo, const QString &nome);
+    void storeLink(const QString &codigo, const QString &nome);
+
+private:
+    void say(const QString &key, class QWidget *focus = nullptr);
+
+    Form &m_form;
+    Ui::frmcodigo_rapido &ui;
+    CodeState &m_state;
+};

@@ -1,0 +1,227 @@
+#include "tests/codes/CodeDesk.h"
+
+#include "checkout/frmconfig_recibo.h"
+#include "configuration/Arquivos_INI.h"
+#include "tests/support/PdfText.h"
+
+#include <QFile>
+#include <QLineEdit>
+#include <QTest>
+
+namespace {
+const QString page = "http://www.example.com/";
+
+QString fileText(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
+}
+} // namespace
+
+/// A customer's access code, from the first proposal to the row.
+class tst_codes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sellsACodePaidBefore()
+    {
+        CodeDesk desk;
+        desk.open();
+        QCOMPARE(desk.shown("lblcodigo"), QString("Código: 7"));
+        QCOMPARE(desk.shown("lbldata_criação"), QString("Data de criação: 15/03/2024"));
+        QCOMPARE(desk.shown("txtvalor_disponível") + desk.shown("txturl"), "5" + page);
+        desk.type("txtvalor_disponível", "1.50");
+        QCOMPARE(desk.shown("lbltotal") + desk.shown("lbltotal_final"), QString("R$ 1,50R$ 1,50"));
+        desk.expectQuestion("1,50", {}, vbNo);
+        pressKey(desk.at("txtvalor_disponível"), Qt::Key_Return);
+        QVERIFY(desk.isOpen() && desk.codes().isEmpty());
+        desk.sell("1,50");
+        QCOMPARE(desk.codes(), QStringList("000000000007|N|1,50|E|" + page + "|15/03/2024|True|True"));
+        QCOMPARE(desk.sales(), QStringList("1|15/03/2024|14:30:05|000000000007|ANA LIMA|ANINHA|1,50|False|False|0,00|"
+                                           "-----------|7"));
+        QCOMPARE(desk.links(), QStringList("1|ANA LIMA|000000000007"));
+        QCOMPARE(desk.machine.sounds.size(), 1);
+        QVERIFY(desk.machine.printouts().isEmpty());
+    }
+
+    void linksACodePaidAfter()
+    {
+        CodeDesk desk("0");
+        desk.cafe.setIni("Codigo_Acesso", "Ocultar", "1");
+        desk.open();
+        const int height = desk.window().height();
+        QVERIFY(!desk.at("frame_conjunto_valor").isVisible() && !desk.at("chkrecibo").isVisible());
+        QCOMPARE(desk.at<QLineEdit>("txtadi_cartao").echoMode(), QLineEdit::Password);
+        QCOMPARE(desk.shown("cmdfinalizar"), QString("&Criar código"));
+        desk.press("optexpira");
+        QVERIFY(desk.window().height() > height && desk.at("frame_conjunto_valor").isVisible());
+        desk.press("opttempo_indeterminado");
+        QCOMPARE(desk.window().height(), height);
+        desk.type("txtadi_cartao", "ab");
+        pressKey(desk.at("txtadi_cartao"), Qt::Key_Return);
+        QVERIFY(desk.at("txturl").hasFocus());
+        desk.expectLinkQuestion(vbNo);
+        pressKey(desk.at("txturl"), Qt::Key_Return);
+        QVERIFY(desk.isOpen() && desk.codes().isEmpty());
+        desk.expectLinkQuestion();
+        desk.expectNotice("MsgBox7");
+        pressKey(desk.at("txturl"), Qt::Key_Return);
+        QVERIFY(!desk.isOpen());
+        // The code is stored as it was typed; its links are in capitals, and so miss the code that is not.
+        QCOMPARE(desk.codes(), QStringList("0000000000ab|N|0,00|I|" + page + "|15/03/2024|True|True"));
+        QCOMPARE(desk.links(), QStringList("1|ANA LIMA|0000000000AB"));
+        QVERIFY(desk.sales().isEmpty() && desk.machine.sounds.isEmpty());
+    }
+
+    void refusesInItsOrder()
+    {
+        CodeDesk desk;
+        desk.cafe.execute("Insert into Codigo_Acesso (Codigo_Acesso) values ('000000000007')");
+        desk.addRule(1, "Relativo='0', LiberarAuto=True, Condicao='2', Valor='30', Fixo=False, Motivo_Desconto=''");
+        desk.open();
+        desk.cafe.execute("Update Registro_Caixa Set Caixa_Aberto=False");
+        desk.type("txturl", "");
+        desk.refused("MsgBox8");
+        desk.cafe.execute("Update Registro_Caixa Set Caixa_Aberto=True");
+        desk.refused("MsgBox2", "txturl");
+        desk.type("txturl", "x");
+        desk.type("txtvalor_disponível", "5");
+        desk.type("txtvalor_desconto", "6");
+        desk.refused("MsgBox11", "txtvalor_desconto");
+        desk.type("txtvalor_desconto", "1");
+        desk.refused("MsgBox12", "txtmotivo");
+        desk.cafe.execute("Update Descontos Set Motivo_Desconto='ANIVERSÁRIO'");
+        desk.refused("MsgBox17", "txtmotivo");
+        desk.cafe.execute("Update Descontos Set Valor='5'");
+        // A code with or without its zeros is one code.
+        desk.expectQuestion("5,00", "4,00");
+        desk.refused("MsgBox3");
+        desk.type("txtadi_cartao", "a'b");
+        desk.expectQuestion("5,00", "4,00");
+        desk.refused("MsgBox1", "txtadi_cartao");
+        desk.press("cmdaleatorio");
+        desk.cafe.execute("Insert into Links (Codigo,Nome) values (3,'ANA LIMA')");
+        desk.expectNotice("MsgBox9");
+        desk.press("cmdfinalizar");
+        QVERIFY(!desk.isOpen() && desk.sales().isEmpty());
+    }
+
+    void putsRegistrationRulesFirst_data()
+    {
+        QTest::addColumn<QString>("rules");
+        QTest::addColumn<QString>("final");
+        QTest::newRow("general") << "1 Relativo='10'"
+                                 << "18,00";
+        QTest::newRow("group before general") << "1 Relativo='10'|2 Relativo='20', Grupo='VIP'"
+                                              << "16,00";
+        QTest::newRow("registration before group") << "1 Absoluto='3', AtoCadastro=True|2 Relativo='20', Grupo='VIP'"
+                                                   << "17,00";
+        QTest::newRow("group at the registration first")
+            << "1 Absoluto='3', AtoCadastro=True|2 Absoluto='4', AtoCadastro=True, Grupo='VIP'"
+            << "16,00";
+        QTest::newRow("products' rules are none") << "1 Relativo='10', TipoVenda='2'"
+                                                  << "20,00";
+        QTest::newRow("no number is no threshold") << "1 Relativo='10', Valor='X'"
+                                                   << "20,00";
+        QTest::newRow("all of it") << "1 Relativo='100'"
+                                   << "0,00";
+    }
+
+    void putsRegistrationRulesFirst()
+    {
+        QFETCH(QString, rules);
+        QFETCH(QString, final);
+        CodeDesk desk;
+        for (const QString &rule : rules.split('|'))
+            desk.addRule(rule.section(' ', 0, 0).toInt(), rule.section(' ', 1));
+        desk.open();
+        desk.type("txtvalor_disponível", "20");
+        QCOMPARE(desk.shown("lbltotal_final"), "R$ " + final);
+        const bool found = final != "20,00";
+        QCOMPARE(desk.at("chkdesconto").isEnabled(), !found);
+        desk.sell("20,00", found ? final : QString());
+        QCOMPARE(desk.codes().value(0).section('|', 2, 2), QString("20,00"));
+        QCOMPARE(desk.sales().value(0).section('|', 10, 10) == "-----------", !found);
+    }
+
+    void leavesWhatFailsUnseen()
+    {
+        CodeDesk desk;
+        desk.open();
+        desk.type("txturl", "http://d'agua");
+        desk.type("txtvalor_disponível", "");
+        desk.sell("0,00");
+        QVERIFY(desk.codes().isEmpty());
+        QCOMPARE(desk.links(), QStringList("1|ANA LIMA|000000000007"));
+
+        // A code that another one bought already, or that is in use.
+        CodeDesk other("0");
+        other.open();
+        other.expectLinkQuestion(vbYes);
+        other.expectNotice("MsgBox7");
+        other.press("cmdfinalizar");
+        QCOMPARE(other.links(), QStringList("1|ANA LIMA|000000000007"));
+    }
+
+    void drawsTwelveDigitsWithoutANine()
+    {
+        CodeDesk desk;
+        desk.open();
+        int draw = 0;
+        desk.machine.random = [&] { return (draw++ % 9 + 0.5) / 9; };
+        desk.press("cmdaleatorio");
+        QCOMPARE(desk.shown("txtadi_cartao"), QString("012345678012"));
+        desk.machine.random = [] { return 0.9999; };
+        desk.press("cmdaleatorio");
+        QCOMPARE(desk.shown("txtadi_cartao"), QString(12, '8'));
+    }
+
+    void printsTheReceipt()
+    {
+        CodeDesk desk;
+        const QString device = desk.machine.installPort(2);
+        desk.cafe.setIni("Recibo Codigo", "Imprimir", "1");
+        desk.cafe.setIni("Recibo", "Via", "2");
+        desk.addRule(1, "Relativo='10', Motivo_Desconto='BOAS-VINDAS'");
+        desk.open();
+        desk.type("txtvalor_disponível", "1200");
+        desk.sell("1200,00", "1080,00");
+        const QStringList lines = pdfLines(desk.machine.openedDocuments.value(0));
+        for (const QString text :
+             {"Recibo nº 00001 / 00001", "Recebemos de ANA LIMA", "Referente ao código de acesso de ANA LIMA",
+              "Total:       R$ 1.200,00", "Desconto:    R$ 120,00 (BOAS-VINDAS)", "Total final: R$ 1.080,00"})
+            QVERIFY2(lines.filter(text).size() == 2, qPrintable(text));
+        desk.cafe.execute("Delete from Links");
+        desk.cafe.setIni("Recibo", "Via", "1");
+        desk.cafe.setIni("Matricial", "Ativo", "1");
+        desk.cafe.setIni("Matricial", "Porta", "LPT2");
+        desk.open();
+        desk.press("cmdaleatorio");
+        desk.sell("5,00", "4,50");
+        QFile golden(QString(GOLDEN_FOLDER) + "port_code.txt");
+        QVERIFY(golden.open(QIODevice::ReadOnly));
+        QCOMPARE(fileText(device), QString::fromUtf8(golden.readAll()).replace("\n", "\r\n"));
+        QCOMPARE(Ler_INI(desk.cafe.path("inf.rcb"), "Recibo", "ID_Total"), QString("2"));
+    }
+
+    void remembersItsTicks()
+    {
+        CodeDesk desk;
+        desk.open();
+        desk.press("chkimprimir_etiqueta");
+        desk.press("chkrecibo");
+        QCOMPARE(desk.cafe.ini("Imprimir Etiqueta", "Ativo") + desk.cafe.ini("Recibo Codigo", "Imprimir"),
+                 QString("11"));
+        desk.press("chkrecibo");
+        QCOMPARE(desk.cafe.ini("Recibo Codigo", "Imprimir"), QString("0"));
+        desk.press("lblconfigurar_recibo");
+        QVERIFY(desk.at("chkrecibo").property("checked").toBool());
+        click(loadedWindow("frmconfig_recibo"), "opt2via");
+        click(loadedWindow("frmconfig_recibo"), "cmdok");
+        QCOMPARE(desk.cafe.ini("Recibo", "Via"), QString("2"));
+    }
+};
+
+QTEST_MAIN(tst_codes)
+#include "tst_codes.moc"
