@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -31,7 +32,9 @@ bool asks(const QWidget *widget, const char *property)
 bool isPrimary(const QStyleOption *option, const QWidget *widget)
 {
     const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
-    return asks(widget, "primary") || (button && button->features & QStyleOptionButton::DefaultButton);
+    // In a window of the program every button with the keyboard is the default one, and has its focus to show for it.
+    const bool inDialog = widget && qobject_cast<const QDialog *>(widget->window());
+    return asks(widget, "primary") || (inDialog && button && button->features & QStyleOptionButton::DefaultButton);
 }
 
 QColor mixed(const QColor &one, const QColor &other, qreal share)
