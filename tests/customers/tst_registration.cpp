@@ -1,6 +1,12 @@
 #include "tests/customers/CustomerDesk.h"
 
+#include "configuration/Idiomas.h"
+#include "data/Funcoes.h"
 #include "platform/base/Machine.h"
+#include "platform/window/Forms.h"
+#include "platform/window/PictureBox.h"
+#include "sale/frmvenda.h"
+#include "tests/support/FakeCamera.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -207,6 +213,51 @@ private slots:
         desk.expectNotice("MsgBox3");
         desk.press("cmdok");
         QCOMPARE(desk.shown("txtnick"), QString());
+    }
+
+    void takesAPhotoThatTheSaleWindowShows()
+    {
+        CustomerDesk desk;
+        desk.machine.installCamera().see(portrait({640, 480}));
+        const auto webcam = [](const QString &button) { click(loadedWindow("frmwebcam"), button); };
+        const auto add = [&](const QString &name) {
+            desk.type("txtnome", name);
+            for (const char *box : {"txtnick", "txtdocumento"})
+                desk.type(box, "");
+            desk.press("cmdok");
+        };
+        QDir(desk.cafe.path("Fotos")).removeRecursively();
+        desk.open();
+        desk.press("cmdwebcam");
+        webcam("cmdcapturar_tela");
+        webcam("cmdconfirmar");
+        QCOMPARE(desk.at<PictureBox>("imgfoto").Picture().size(), QSize(640, 480));
+        // Without the folder there is no photo, no customer and no word.
+        add("EVA");
+        QCOMPARE(desk.stored("Codigo").size(), 3);
+        QVERIFY(QDir().mkpath(desk.cafe.path("fotos")));
+        desk.expectOffer();
+        add("EVA");
+        QCOMPARE(desk.stored("CaminhoFoto").last(), (desk.cafe.folder() + "/\\Fotos\\6.jpg").toUpper());
+        QVERIFY(QFile::exists(desk.cafe.path("fotos/6.jpg")));
+
+        desk.press("cmdremover");
+        desk.press("cmdwebcam");
+        webcam("cmdcancelar");
+        // Nothing was captured, and yet the photo is waited for.
+        add("FÉLIX");
+        QCOMPARE(desk.stored("Codigo").size(), 4);
+        desk.machine.camera.reset();
+        desk.attendant.expectNotice(textoIdioma("Funcoes", "MsgBox9"), textoIdioma("Funcoes", "MsgBox1_2"));
+        desk.press("cmdwebcam");
+        QVERIFY(!Form_Aberto("frmwebcam"));
+
+        Descarregar_Forms();
+        auto &sale = Forms::use<frmvenda>();
+        sale.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&sale));
+        clickCell(control<FlexGrid>(sale, "tab_clientes"), 4, 1);
+        QCOMPARE(control<PictureBox>(sale, "imgfoto").Picture().size(), QSize(640, 480));
     }
 
     void keepsAPhotoForTheNextCustomerToo()
