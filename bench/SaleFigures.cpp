@@ -1,6 +1,5 @@
 #include "bench/SaleFigures.h"
 
-#include "bench/BareFile.h"
 #include "bench/Figures.h"
 #include "bench/Program.h"
 #include "cafe/Cafe.h"
@@ -8,6 +7,7 @@
 #include "platform/window/Forms.h"
 #include "sale/ProductRules.h"
 #include "sale/frmvenda.h"
+#include "tests/support/BareFile.h"
 #include "tests/support/Controls.h"
 
 #include <QCheckBox>

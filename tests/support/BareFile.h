@@ -8,7 +8,7 @@
 struct sqlite3;
 
 /// A data file through the bare SQLCipher API, with the terminal's own settings for safety: the reference of the
-/// figures.
+/// figures, and a way to statements that the dialect of the windows does not know.
 class BareFile
 {
 public:

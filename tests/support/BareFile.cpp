@@ -1,4 +1,4 @@
-#include "bench/BareFile.h"
+#include "tests/support/BareFile.h"
 
 #include <sqlcipher/sqlite3.h>
 
