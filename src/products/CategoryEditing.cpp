@@ -1,0 +1,155 @@
+#include "products/CategoryEditing.h"
+
+#include "data/FirstRow.h"
+#include "data/Funcoes.h"
+#include "platform/text/Numbers.h"
+#include "platform/window/Prompts.h"
+#include "products/CategoryList.h"
+#include "products/CategoryState.h"
+#include "products/CategoryTexts.h"
+#include "products/DefaultCategory.h"
+#include "products/SoldProducts.h"
+#include "ui_frmcadastro_categoria.h"
+
+namespace {
+/// No statement waits for the success of another: a change that is broken off halfway stays as it is.
+void executeIgnoringErrors(const QString &sql)
+{
+    OnErrorResumeNext([&] { executeStatement(sql); });
+}
+} // namespace
+
+CategoryEditing::CategoryEditing(Ui::frmcadastro_categoria &window, CategoryState &state, CategoryList &list)
+    : ui(window), m_state(state), m_list(list)
+{
+}
+
+void CategoryEditing::cmdadicionar_Click()
+{
+    OnErrorGoToEnd([this] {
+        if (!isRefused("MsgBox2"))
+            store();
+    });
+}
+
+void CategoryEditing::cmdeditar_Click()
+{
+    if (ui.cmdeditar->text() == categoryTexts.loaded("String5"))
+        begin();
+    else if (!categoryTexts.confirms("MsgBox5", "MsgBox5_2", vbQuestion) || save())
+        rest();
+}
+
+void CategoryEditing::rest()
+{
+    ui.txtnome->setText({});
+    ui.chkpadrao->setChecked(false);
+    setUnderEdit(false);
+}
+
+QString CategoryEditing::typedName() const
+{
+    return ui.txtnome->text().toUpper();
+}
+
+bool CategoryEditing::isRefused(const QString &emptyKey)
+{
+    const bool apostrophe = Tem_Apostrofo(ui.txtnome->text());
+    if (!apostrophe && !ui.txtnome->text().isEmpty())
+        return false;
+    categoryTexts.notice(apostrophe ? "MsgBox1" : emptyKey);
+    ui.txtnome->setFocus();
+    return true;
+}
+
+bool CategoryEditing::isTaken(const QString &others)
+{
+    if (!hasRow("Select * from Categoria Where nome='" + typedName() + "'" + others))
+        return false;
+    categoryTexts.noticeText(categoryTexts.text("MsgBox3") + typedName() + categoryTexts.text("MsgBox3_2"));
+    ui.txtnome->setFocus();
+    return true;
+}
+
+void CategoryEditing::store()
+{
+    double codigo = 1;
+    readFirstRow("Select Max(Codigo) From Categoria", [&](const Recordset &rs) { codigo = rs.Fields(0).number() + 1; });
+    if (isTaken())
+        return;
+    const QString name = typedName();
+    executeStatement("Insert into Categoria (Codigo,nome) values (" + Cstr(codigo) + ",'" + name + "')");
+    m_list.addCategory(codigo, name, ui.chkpadrao->isChecked());
+    if (ui.chkpadrao->isChecked()) {
+        takeDefault(name);
+        m_list.markDefault();
+    }
+    ui.txtnome->setText({});
+    ui.chkpadrao->setChecked(false);
+    m_list.showTotal();
+    ui.txtnome->setFocus();
+}
+
+void CategoryEditing::begin()
+{
+    const FlexGrid &grid = *ui.tab_categorias;
+    if (m_state.LinhaSelecionada < 1 || grid.Rows() < 2)
+        return categoryTexts.notice("MsgBox4");
+    m_state.LinhaEditada = m_state.LinhaSelecionada;
+    m_state.CodigoCategoria = Val(grid.TextMatrix(m_state.LinhaEditada, CategoryColumn::Codigo));
+    m_state.NomeAntigo = grid.TextMatrix(m_state.LinhaEditada, CategoryColumn::Name);
+    ui.txtnome->setText(m_state.NomeAntigo);
+    ui.chkpadrao->setChecked(m_list.isMarked(m_state.LinhaEditada));
+    setUnderEdit(true);
+}
+
+bool CategoryEditing::save()
+{
+    if (isRefused("MsgBox6") || isTaken(" AND Codigo <> " + Cstr(m_state.CodigoCategoria)))
+        return false;
+    const QString name = typedName();
+    if (m_state.NomeAntigo == categoryTexts.loaded("String7") && name != m_state.NomeAntigo) {
+        categoryTexts.notice("MsgBox7");
+        return false;
+    }
+    carryOver(name);
+    settleDefault(name);
+    m_list.showCategory(m_state.LinhaEditada, name);
+    return true;
+}
+
+void CategoryEditing::carryOver(const QString &name)
+{
+    executeIgnoringErrors("Update Categoria Set Nome = '" + name + "' Where Codigo = " + Cstr(m_state.CodigoCategoria));
+    const QString renamed = "Categoria = '" + name + "'";
+    const QString formerly = "Where Categoria = '" + m_state.NomeAntigo + "'";
+    executeIgnoringErrors("Update Produtos Set " + renamed + " " + formerly);
+    updateSoldProducts(renamed + formerly, executeIgnoringErrors);
+}
+
+void CategoryEditing::settleDefault(const QString &name)
+{
+    if (ui.chkpadrao->isChecked()) {
+        takeDefault(name);
+        m_list.markDefault();
+        return;
+    }
+    if (storedDefaultCategory() == name)
+        takeDefault(categoryTexts.loaded("String7"));
+    // Whatever the language calls the category that can't be removed; the next opening mends it. That stays.
+    if (m_list.isMarked(m_state.LinhaEditada))
+        storeDefaultCategory("DIVERSOS");
+}
+
+void CategoryEditing::takeDefault(const QString &name)
+{
+    m_state.CategoriaPadrao = name;
+    storeDefaultCategory(name);
+}
+
+void CategoryEditing::setUnderEdit(bool underEdit)
+{
+    for (QPushButton *button : {ui.cmdremover, ui.cmdadicionar})
+        button->setEnabled(!underEdit);
+    ui.cmdeditar->setText(categoryTexts.loaded(underEdit ? "String6" : "String5"));
+}

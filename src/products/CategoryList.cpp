@@ -1,0 +1,81 @@
+#include "products/CategoryList.h"
+
+#include "data/Acesso_BD.h"
+#include "platform/text/Numbers.h"
+#include "products/CategoryState.h"
+#include "products/CategoryTexts.h"
+#include "products/ListTotal.h"
+#include "ui_frmcadastro_categoria.h"
+
+namespace {
+QString markOf(bool isDefault)
+{
+    return isDefault ? "x" : "---";
+}
+} // namespace
+
+CategoryList::CategoryList(Ui::frmcadastro_categoria &window, CategoryState &state, QObject *parent)
+    : QObject(parent), ui(window), m_state(state)
+{
+    connect(ui.tab_categorias, &FlexGrid::Click, this, &CategoryList::tab_categorias_Click);
+    connect(ui.tab_categorias, &FlexGrid::SelChange, this, &CategoryList::tab_categorias_Click);
+}
+
+void CategoryList::load()
+{
+    FlexGrid &grid = *ui.tab_categorias;
+    grid.Clear();
+    grid.setFormatString("<       |<" + categoryTexts.text("tab_categorias1") + "|<" +
+                         categoryTexts.text("tab_categorias2"));
+    grid.setCols(CategoryColumn::Count);
+    grid.setRows(1);
+
+    RecordsetHandle rs;
+    Abrir_Recordset(rs, BancoPrincipal, "Select * from Categoria Order By Nome");
+    for (; rs && !rs->Eof(); rs->MoveNext()) {
+        const QString name = rs->Fields("Nome").text();
+        addCategory(rs->Fields("Codigo").number(), name, name.toUpper() == m_state.CategoriaPadrao);
+    }
+    Fechar_Recordset(rs);
+    showTotal();
+}
+
+void CategoryList::addCategory(double codigo, const QString &name, bool isDefault)
+{
+    FlexGrid &grid = *ui.tab_categorias;
+    const int row = grid.Rows();
+    grid.setRows(row + 1);
+    grid.setTextMatrix(row, CategoryColumn::Codigo, Cstr(codigo));
+    grid.setTextMatrix(row, CategoryColumn::Name, name);
+    grid.setTextMatrix(row, CategoryColumn::Default, markOf(isDefault));
+}
+
+void CategoryList::showCategory(int row, const QString &name)
+{
+    FlexGrid &grid = *ui.tab_categorias;
+    grid.setTextMatrix(row, CategoryColumn::Name, name);
+    grid.setTextMatrix(row, CategoryColumn::Default, markOf(name == m_state.CategoriaPadrao));
+}
+
+bool CategoryList::isMarked(int row) const
+{
+    return ui.tab_categorias->TextMatrix(row, CategoryColumn::Default) == markOf(true);
+}
+
+void CategoryList::markDefault()
+{
+    FlexGrid &grid = *ui.tab_categorias;
+    for (int row = 1; row < grid.Rows(); ++row)
+        grid.setTextMatrix(row, CategoryColumn::Default,
+                           markOf(grid.TextMatrix(row, CategoryColumn::Name) == m_state.CategoriaPadrao));
+}
+
+void CategoryList::showTotal()
+{
+    ::showTotal(categoryTexts, ui.tab_categorias->Rows() - 1, {ui.lbltotal_categorias, ui.Lblsombracategorias});
+}
+
+void CategoryList::tab_categorias_Click()
+{
+    m_state.LinhaSelecionada = ui.tab_categorias->Row();
+}

@@ -1,0 +1,10 @@
+#include "products/SoldProducts.h"
+
+#include "data/Acesso_BD.h"
+
+void updateSoldProducts(const QString &change, const std::function<void(const QString &sql)> &execute)
+{
+    execute("Update Venda_Produtos Set " + change);
+    if (Existe_Tabela("Venda_ProdutosOti"))
+        execute("Update Venda_ProdutosOti Set " + change);
+}

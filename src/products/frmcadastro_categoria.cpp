@@ -1,0 +1,43 @@
+#include "products/frmcadastro_categoria.h"
+
+#include "data/Acesso_BD.h"
+#include "platform/window/BoxKeys.h"
+#include "products/CategoryEditing.h"
+#include "products/CategoryList.h"
+#include "products/CategoryRemoval.h"
+#include "products/CategoryTexts.h"
+#include "products/DefaultCategory.h"
+#include "ui_frmcadastro_categoria.h"
+
+frmcadastro_categoria::frmcadastro_categoria() : ui(std::make_unique<Ui::frmcadastro_categoria>())
+{
+    ui->setupUi(this);
+    m_list = new CategoryList(*ui, m_state, this);
+    m_editing = std::make_unique<CategoryEditing>(*ui, m_state, *m_list);
+
+    enterMovesTo(ui->txtnome, ui->chkpadrao);
+    connect(ui->cmdadicionar, &QPushButton::clicked, this, [this] { m_editing->cmdadicionar_Click(); });
+    connect(ui->cmdeditar, &QPushButton::clicked, this, [this] { m_editing->cmdeditar_Click(); });
+    connect(ui->cmdremover, &QPushButton::clicked, this, &frmcadastro_categoria::cmdremover_Click);
+    connect(ui->cmdsair, &QPushButton::clicked, this, &frmcadastro_categoria::Unload);
+}
+
+frmcadastro_categoria::~frmcadastro_categoria() = default;
+
+void frmcadastro_categoria::Form_Load()
+{
+    Sempre_No_Topo(*this, true);
+    m_state.LinhaSelecionada = 0;
+    m_state.LinhaEditada = 0;
+    Abrir_Banco_Principal();
+    m_state.CategoriaPadrao = usableDefaultCategory(categoryTexts.loaded("String7")).toUpper();
+    storeDefaultCategory(m_state.CategoriaPadrao);
+    m_list->load();
+    m_editing->rest();
+}
+
+void frmcadastro_categoria::cmdremover_Click()
+{
+    if (removerCategorias(*ui->tab_categorias, m_state))
+        Form_Load();
+}
