@@ -1,8 +1,5 @@
 #include "tests/support/PdfBarcodes.h"
 
-#include "platform/print/Printer.h"
-#include "platform/print/RecordedPage.h"
-
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -15,28 +12,49 @@ QString dots(double twips)
 {
     return QString::number(qRound(twips * dotsPerInch / twipsPerInch));
 }
+
+/// Draws one part of a page, given in twips, and answers the picture's file.
+QString draw(const QString &path, int page, const QRectF &part, const QTemporaryDir &folder)
+{
+    const QString picture = folder.filePath("part");
+    const QString number = QString::number(page);
+    const QStringList arguments{"-png",
+                                "-gray",
+                                "-singlefile",
+                                "-r",
+                                dots(twipsPerInch),
+                                "-f",
+                                number,
+                                "-l",
+                                number,
+                                "-x",
+                                dots(part.x()),
+                                "-y",
+                                dots(part.y()),
+                                "-W",
+                                dots(part.width()),
+                                "-H",
+                                dots(part.height()),
+                                path,
+                                picture};
+    if (QProcess::execute("pdftocairo", arguments) != 0)
+        qFatal("pdftocairo cannot draw page %d of %s", page, qPrintable(path));
+    return picture + ".png";
+}
 } // namespace
+
+QImage pdfPicture(const QString &path, int page)
+{
+    const QTemporaryDir folder;
+    return QImage(draw(path, page, {0, 0, a4Width, a4Height}, folder));
+}
 
 QStringList pdfBarcodes(const QString &path, int page, const QRectF &part)
 {
     const QTemporaryDir folder;
-    const QString picture = folder.filePath("part");
-    const QString number = QString::number(page);
-    const QStringList place{"-x", dots(part.x()),     "-y", dots(part.y()),
-                            "-W", dots(part.width()), "-H", dots(part.height())};
-    if (QProcess::execute("pdftoppm", QStringList{"-r", QString::number(dotsPerInch), "-f", number, "-l", number,
-                                                  "-singlefile", "-gray", "-png"} +
-                                          place + QStringList{path, picture}) != 0)
-        qFatal("pdftoppm cannot draw page %d of %s", page, qPrintable(path));
-
     QProcess reader;
-    reader.start("zbarimg", {"--quiet", picture + ".png"});
+    reader.start("zbarimg", {"--quiet", draw(path, page, part, folder)});
     if (!reader.waitForFinished() || (reader.exitCode() != 0 && reader.exitCode() != nothingFound))
         qFatal("zbarimg failed: %s", reader.readAllStandardError().constData());
     return QString::fromUtf8(reader.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-}
-
-QStringList pdfBarcodes(const QString &path, int page)
-{
-    return pdfBarcodes(path, page, {0, 0, a4Width, a4Height});
 }
