@@ -4,6 +4,7 @@
 #include "platform/window/BoxKeys.h"
 #include "products/CategoryEditing.h"
 #include "products/CategoryList.h"
+#include "products/CategoryPrintouts.h"
 #include "products/CategoryRemoval.h"
 #include "products/CategoryTexts.h"
 #include "products/DefaultCategory.h"
@@ -19,6 +20,10 @@ frmcadastro_categoria::frmcadastro_categoria() : ui(std::make_unique<Ui::frmcada
     connect(ui->cmdadicionar, &QPushButton::clicked, this, [this] { m_editing->cmdadicionar_Click(); });
     connect(ui->cmdeditar, &QPushButton::clicked, this, [this] { m_editing->cmdeditar_Click(); });
     connect(ui->cmdremover, &QPushButton::clicked, this, &frmcadastro_categoria::cmdremover_Click);
+    connect(ui->cmdimprimir, &QPushButton::clicked, this,
+            [this] { imprimirCategorias(*ui->tab_categorias, ui->lbltotal_categorias->text()); });
+    connect(ui->cmdsalvar, &QPushButton::clicked, this,
+            [this] { salvarCategorias(*ui->tab_categorias, ui->lbltotal_categorias->text()); });
     connect(ui->cmdsair, &QPushButton::clicked, this, &frmcadastro_categoria::Unload);
 }
 

@@ -2,6 +2,12 @@
 
 #include <QWidget>
 
+enum MousePointer
+{
+    vbDefault = 0,
+    vbHourglass = 11,
+};
+
 /// A window of the program. Its name is its `objectName`.
 ///
 /// `Forms::use<frmvenda>()` makes and loads it at its first use; `Show` opens it or brings it forward; closing it by
@@ -20,7 +26,7 @@ public:
     void Show();
     void Unload();
 
-    /// 11 is the hourglass, 0 the window's usual pointer.
+    /// One of `MousePointer`.
     void setMousePointer(int pointer);
 
 protected:

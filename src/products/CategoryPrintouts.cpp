@@ -1,0 +1,65 @@
+#include "products/CategoryPrintouts.h"
+
+#include "platform/print/Printer.h"
+#include "platform/window/FlexGrid.h"
+#include "platform/window/Prompts.h"
+#include "products/CategoryList.h"
+#include "products/CategoryTexts.h"
+#include "reports/ListReport.h"
+
+namespace {
+constexpr int columns = 95;
+constexpr int nameWidth = 80;
+
+QString text(const QString &key)
+{
+    return categoryTexts.text(key);
+}
+
+ListReport reportOf(const FlexGrid &grid, const QString &nameHead, const QString &markHead)
+{
+    return {.grid = grid,
+            .columns = columns,
+            .columnHeads = nameHead.leftJustified(nameWidth) + markHead,
+            .lines = {{{"", CategoryColumn::Name, nameWidth}, {"", CategoryColumn::Default}}}};
+}
+} // namespace
+
+void imprimirCategorias(const FlexGrid &tab_categorias, const QString &total)
+{
+    if (!categoryTexts.confirms("MsgBox8", "MsgBox8_2", vbQuestion))
+        return;
+    if (tab_categorias.Rows() < 2)
+        return categoryTexts.notice("MsgBox9", "MsgBox9_2");
+
+    // The mark has no share of anything, but its head has always borne the sign. It stays.
+    PrintedList list{reportOf(tab_categorias, text("DispositivoSaida4"), text("DispositivoSaida5") + "%")};
+    list.documentName = list.heading = text("DispositivoSaida1");
+    list.numberEnd = columns;
+    list.linesOfHead = 5;
+    list.linesPerEntry = 2;
+    list.placedByCounter = true;
+    list.close = [&](int counter, Printer &printer) {
+        printer.setCurrentY(counter);
+        printer.Print(reportRule(columns));
+        printer.Print(text("DispositivoSaida6") + total);
+    };
+    printList(list);
+}
+
+void salvarCategorias(const FlexGrid &tab_categorias, const QString &total)
+{
+    if (tab_categorias.Rows() < 2)
+        return categoryTexts.notice("MsgBox18", "MsgBox9_2");
+    const QString file = chooseListFile(categoryTexts, "MsgBox16", "MsgBox16_2");
+    if (file.isEmpty())
+        return;
+
+    SavedList list{reportOf(tab_categorias, text("DispositivoSaida9"), text("DispositivoSaida10"))};
+    list.heading = QStringList{text("DispositivoSaida7")};
+    list.dateLabel = text("DispositivoSaida8");
+    list.closing = QStringList{reportRule(columns), total};
+    // A file that can't be written is reported as saved too, as its lines fail one by one. That stays.
+    saveList(file, list);
+    categoryTexts.noticeText(text("MsgBox17") + text("MsgBox17_2"));
+}

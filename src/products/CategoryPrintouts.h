@@ -1,0 +1,9 @@
+#pragma once
+
+class FlexGrid;
+class QString;
+
+// The list of categories on paper and in a file. `total` is the text of the label that counts them.
+
+void imprimirCategorias(const FlexGrid &tab_categorias, const QString &total);
+void salvarCategorias(const FlexGrid &tab_categorias, const QString &total);
