@@ -1,5 +1,6 @@
 #include "bench/CustomerFigures.h"
 #include "bench/Figures.h"
+#include "bench/LabelFigures.h"
 #include "bench/SaleFigures.h"
 #include "bench/StartFigures.h"
 #include "cafe/Cafe.h"
@@ -48,6 +49,7 @@ int main(int argc, char **argv)
         addStartFigures(table, small);
         addSaleFigures(table, small, large);
         addCustomerFigures(table, large);
+        addLabelFigures(table);
         return table.allWithinLimits() ? 0 : 1;
     } catch (const std::exception &error) {
         QTextStream(stderr) << error.what() << '\n';
