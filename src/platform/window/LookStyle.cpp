@@ -29,6 +29,13 @@ bool asks(const QWidget *widget, const char *property)
     return widget && widget->property(property).toBool();
 }
 
+/// The font of a card's title.
+QFont boldTitle(QFont font)
+{
+    font.setBold(true);
+    return font;
+}
+
 bool isPrimary(const QStyleOption *option, const QWidget *widget)
 {
     const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
@@ -252,6 +259,12 @@ QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
         wanted.setHeight(std::max(wanted.height(), option->fontMetrics.height() + 12));
     if (type == CT_PushButton)
         wanted.rwidth() += 12;
+    if (type == CT_GroupBox) {
+        // The bold title, whose width the box itself doesn't know, must not be cut.
+        const QString &title = static_cast<const QStyleOptionGroupBox *>(option)->text;
+        const int width = QFontMetrics(boldTitle(widget->font())).horizontalAdvance(title) + 2 * cardMargin;
+        wanted.setWidth(std::max(wanted.width(), width));
+    }
     return wanted;
 }
 
@@ -382,11 +395,8 @@ void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         return;
     }
     painter->save();
-    if (control == CC_GroupBox) {
-        QFont title = painter->font();
-        title.setBold(true);
-        painter->setFont(title);
-    }
+    if (control == CC_GroupBox)
+        painter->setFont(boldTitle(painter->font()));
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     painter->restore();
 }
