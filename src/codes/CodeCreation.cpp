@@ -14,7 +14,6 @@
 #include "ui_frmcodigo_rapido.h"
 
 namespace {
-constexpr int usualPointer = 0;
 constexpr int codeLength = 12;
 constexpr quint8 stored = 255;
 } // namespace
@@ -41,7 +40,7 @@ void CodeCreation::pad()
 
 void CodeCreation::say(const QString &key, QWidget *focus)
 {
-    m_form.setMousePointer(usualPointer);
+    m_form.setMousePointer(vbDefault);
     codeTexts.notice(key);
     if (focus)
         focus->setFocus();
@@ -51,7 +50,7 @@ void CodeCreation::Cadastrar_Codigo(quint8 &ok)
 {
     ok = 0;
     if (ui.txtadi_cartao->text().isEmpty()) {
-        m_form.setMousePointer(usualPointer);
+        m_form.setMousePointer(vbDefault);
         codeTexts.notice("MsgBox4", "MsgBox4_2");
         return;
     }

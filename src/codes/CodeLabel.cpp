@@ -8,8 +8,6 @@
 #include "platform/window/Forms.h"
 
 namespace {
-constexpr int hourglass = 11;
-constexpr int usualPointer = 0;
 constexpr int moduleTwips = 18;
 constexpr double barTwips = 700;
 
@@ -22,9 +20,7 @@ LabelChoice askForLabel()
     QObject::connect(&window, &frmetiquetas::confirmed, &waiting,
                      [&answer](const LabelChoice &choice) { answer = choice; });
     window.setEtiqueta_Em_Andamento(true);
-    window.Show();
-    Sempre_No_Topo(window, true);
-    Aguardar_Form(window.Name());
+    showAndWait(window);
     return answer;
 }
 } // namespace
@@ -32,7 +28,7 @@ LabelChoice askForLabel()
 void printCodeLabel(Form &opener, const QString &code)
 {
     const LabelChoice choice = askForLabel();
-    opener.setMousePointer(hourglass);
+    opener.setMousePointer(vbHourglass);
     if (choice.Coluna_Inicial > 0 && choice.Linha_Inicial > 0) {
         OnErrorResumeNext(
             [&] {
@@ -47,5 +43,5 @@ void printCodeLabel(Form &opener, const QString &code)
             },
             [] { Printer::current().EndDoc(); }, [] { Restaurar_Escala_Impressora(); });
     }
-    opener.setMousePointer(usualPointer);
+    opener.setMousePointer(vbDefault);
 }

@@ -17,11 +17,6 @@
 #include "platform/window/Prompts.h"
 #include "ui_frmcodigo_rapido.h"
 
-namespace {
-constexpr int hourglass = 11;
-constexpr int usualPointer = 0;
-} // namespace
-
 CodeSale::CodeSale(Form &form, Ui::frmcodigo_rapido &window, CodeState &state, SaleDiscount &discount,
                    CodeCreation &creation)
     : m_form(form), ui(window), m_state(state), m_discount(discount), m_creation(creation)
@@ -30,7 +25,7 @@ CodeSale::CodeSale(Form &form, Ui::frmcodigo_rapido &window, CodeState &state, S
 
 void CodeSale::refuse(const QString &key, QWidget *focus)
 {
-    m_form.setMousePointer(usualPointer);
+    m_form.setMousePointer(vbDefault);
     codeTexts.notice(key);
     if (focus)
         focus->setFocus();
@@ -41,14 +36,14 @@ void CodeSale::cmdfinalizar_Click()
 {
     if (!Caixa_Aberto())
         return refuse("MsgBox8");
-    m_form.setMousePointer(hourglass);
+    m_form.setMousePointer(vbHourglass);
     if (prepare()) {
         if (ui.opttempo_indeterminado->isChecked())
             linkCode();
         else
             sellCode();
     }
-    m_form.setMousePointer(usualPointer);
+    m_form.setMousePointer(vbDefault);
 }
 
 bool CodeSale::prepare()
@@ -76,7 +71,7 @@ bool CodeSale::prepare()
 
 void CodeSale::linkCode()
 {
-    m_form.setMousePointer(usualPointer);
+    m_form.setMousePointer(vbDefault);
     if (MsgBox(codeTexts.text("MsgBox10") + m_state.Nome_Cliente + "?", vbYesNo + vbInformation,
                codeTexts.text("MsgBox1_2")) != vbYes)
         return;
@@ -128,7 +123,7 @@ bool CodeSale::confirmsSale() const
     if (reduced)
         question += codeTexts.text("MsgBox13_3") + withSymbol(m_discount.Total_Final);
     question += codeTexts.text("MsgBox13_4") + "\n" + m_state.Nome_Cliente.toUpper() + " ? ";
-    m_form.setMousePointer(usualPointer);
+    m_form.setMousePointer(vbDefault);
     const int answer = MsgBox(question, vbYesNo + vbInformation, codeTexts.text("MsgBox1_2"));
     return answer == vbYes;
 }

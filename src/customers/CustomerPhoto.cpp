@@ -13,8 +13,6 @@
 #include "ui_frmcadastro_clientes.h"
 
 namespace {
-constexpr int hourglass = 11;
-constexpr int usualPointer = 0;
 constexpr quint16 pictureWaits = 65535;
 } // namespace
 
@@ -50,13 +48,13 @@ void CustomerPhoto::keepWebcamPicture(double codigo)
 
 void CustomerPhoto::cmdwebcam_Click()
 {
-    m_form.setMousePointer(hourglass);
+    m_form.setMousePointer(vbHourglass);
     // Set before anything was captured, and left so by a cancelled capture: the next save then fails. It stays.
     m_state.FotoWebcam = pictureWaits;
     auto &window = Forms::use<frmwebcam>();
     connect(&window, &frmwebcam::confirmed, this, &CustomerPhoto::showWebcamPicture, Qt::UniqueConnection);
     window.Show();
-    m_form.setMousePointer(usualPointer);
+    m_form.setMousePointer(vbDefault);
 }
 
 void CustomerPhoto::showWebcamPicture(const QString &file)

@@ -15,8 +15,6 @@
 #include <algorithm>
 
 namespace {
-constexpr int hourglass = 11;
-
 /// The customers go first, the codes before the links through which they are found.
 void execute(const QString &codes, const QString &names)
 {
@@ -52,7 +50,7 @@ bool excluirClientes(Form &form, const FlexGrid &tab_clientes, const CustomerSta
     if (!customerTexts.confirms(single ? "MsgBox10" : "MsgBox11", "MsgBox1_2", vbQuestion))
         return false;
 
-    form.setMousePointer(hourglass);
+    form.setMousePointer(vbHourglass);
     const bool removed = OnErrorGoToEnd([&] {
         // The path of the main program's server takes the place of the one in force until a window is opened from the
         // main window again; the open file goes on. That stays.

@@ -10,10 +10,6 @@
 #include "data/Acesso_BD.h"
 #include "ui_frmcadastro_clientes.h"
 
-namespace {
-constexpr int usualPointer = 0;
-}
-
 frmcadastro_clientes::frmcadastro_clientes() : ui(std::make_unique<Ui::frmcadastro_clientes>())
 {
     ui->setupUi(this);
@@ -67,5 +63,5 @@ void frmcadastro_clientes::cmdexcluir_Click()
         m_form->clear();
         Form_Load();
     }
-    setMousePointer(usualPointer);
+    setMousePointer(vbDefault);
 }

@@ -47,6 +47,13 @@ void Aguardar_Form(const QString &name)
     } while (Form_Aberto(name));
 }
 
+void showAndWait(Form &window)
+{
+    window.Show();
+    Sempre_No_Topo(window, true);
+    Aguardar_Form(window.Name());
+}
+
 void Descarregar_Forms()
 {
     const QList<Form *> forms = Forms::loaded();

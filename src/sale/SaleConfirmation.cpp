@@ -23,8 +23,6 @@
 #include <cmath>
 
 namespace {
-constexpr int hourglass = 11;
-constexpr int usualPointer = 0;
 const QString attention = "Atenção";
 
 QString quoted(const QString &text)
@@ -46,7 +44,7 @@ QString SaleConfirmation::cartText(int row, int column) const
 
 void SaleConfirmation::refuse(const QString &key, QWidget *focus)
 {
-    m_form.setMousePointer(usualPointer);
+    m_form.setMousePointer(vbDefault);
     saleTexts.notice(key);
     if (focus)
         focus->setFocus();
@@ -57,7 +55,7 @@ void SaleConfirmation::cmdfinalizar_Click()
 {
     if (m_discount.Bloqueio_Desconto)
         return;
-    m_form.setMousePointer(hourglass);
+    m_form.setMousePointer(vbHourglass);
     if (!prepare())
         return;
 
@@ -131,7 +129,7 @@ int SaleConfirmation::ask()
             amount + saleTexts.loaded(paid ? "String5_2" : "String6") + "\n" + m_state.Nome_Cliente.toUpper() + "?";
     else if (paid)
         question = amount + "?";
-    m_form.setMousePointer(usualPointer);
+    m_form.setMousePointer(vbDefault);
     return MsgBox(question, vbYesNo + vbInformation, attention);
 }
 
@@ -162,7 +160,7 @@ void SaleConfirmation::store()
         Tocar_Caixa();
     }
     m_discount.Bloqueio_Desconto = false;
-    m_form.setMousePointer(usualPointer);
+    m_form.setMousePointer(vbDefault);
     saleTexts.notice("MsgBox13");
     if (!m_lowStock.isEmpty())
         MsgBox(saleTexts.loaded("String9") + "\n\n" + m_lowStock.join('\n') + "\n", vbInformation, attention);

@@ -46,7 +46,7 @@ void Form::Unload()
 
 void Form::setMousePointer(int pointer)
 {
-    if (pointer == 11)
+    if (pointer == vbHourglass)
         setCursor(Qt::WaitCursor);
     else
         unsetCursor();
