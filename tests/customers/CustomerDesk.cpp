@@ -1,12 +1,11 @@
 #include "tests/customers/CustomerDesk.h"
 
-#include "configuration/Idiomas.h"
 #include "data/Funcoes.h"
 #include "platform/window/Forms.h"
 
-#include <QTest>
-
 CustomerDesk::CustomerDesk()
+    : ListDesk("frmcadastro_clientes", "tab_clientes", "Clientes",
+               []() -> Form & { return Forms::use<frmcadastro_clientes>(); })
 {
     cafe.execute("Delete from Grupo_Clientes");
     cafe.execute("Insert into Grupo_Clientes (Grupo,Desconto) values ('Normal','0')");
@@ -31,25 +30,9 @@ void CustomerDesk::addCustomer(int codigo, const QString &nome, const QString &c
     cafe.execute("Update Clientes Set " + changes + " Where Codigo=" + QString::number(codigo));
 }
 
-void CustomerDesk::open()
-{
-    Descarregar_Forms();
-    auto &form = Forms::use<frmcadastro_clientes>();
-    form.Show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
-}
-
 frmcadastro_clientes &CustomerDesk::window()
 {
     return Forms::use<frmcadastro_clientes>();
-}
-
-QString CustomerDesk::shown(const QString &name)
-{
-    const char *property = at(name).inherits("QComboBox")        ? "currentText"
-                           : at(name).inherits("QPlainTextEdit") ? "plainText"
-                                                                 : "text";
-    return at(name).property(property).toString();
 }
 
 void CustomerDesk::edit(int row)
@@ -58,38 +41,7 @@ void CustomerDesk::edit(int row)
     press("cmdeditar");
 }
 
-QString CustomerDesk::text(const QString &key) const
-{
-    return textoIdioma("frmcadastro_clientes", key);
-}
-
-void CustomerDesk::expectNotice(const QString &key, const QString &titleKey)
-{
-    attendant.expectNotice(text(key), text(titleKey));
-}
-
 QString CustomerDesk::takenText(const QString &key, const QString &value) const
 {
     return text(key) + value + text("MsgBox6_2") + value + text("MsgBox6_3");
-}
-
-void CustomerDesk::expectQuestion(const QString &key, const QString &titleKey, int icon, int answer)
-{
-    attendant.expect(text(key), vbYesNo + icon, text(titleKey), answer);
-}
-
-QStringList CustomerDesk::stored(const QString &fields)
-{
-    QStringList rows;
-    for (const QStringList &row : cafe.query("Select " + fields + " from Clientes Order By Codigo"))
-        rows += row.join('|');
-    return rows;
-}
-
-QStringList CustomerDesk::listed(int column)
-{
-    QStringList texts;
-    for (int row = 1; row < list().Rows(); ++row)
-        texts += list().TextMatrix(row, column);
-    return texts;
 }
