@@ -6,6 +6,7 @@
 namespace Placeholder {
 inline const QString NoName = "------";
 inline const QString NoProductCode = "---";
+inline const QString NoBarcode = "-------------";
 inline const QString NoState = "--";
 inline const QString NoPostalCode = "00.000-000";
 // A new customer and an edited one get another text each, and that stays.

@@ -5,7 +5,7 @@
 #include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
-#include "platform/window/KeyCodes.h"
+#include "platform/window/BoxKeys.h"
 #include "sale/SaleProducts.h"
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"
@@ -28,8 +28,8 @@ SaleCart::SaleCart(Ui::frmvenda &window, SaleState &state, SaleDiscount &discoun
             return;
         if (KeyAscii == vbKeyReturn)
             cmdadicionar_Click();
-        else if ((KeyAscii < '0' || KeyAscii > '9') && KeyAscii != vbKeyBack)
-            KeyAscii = 0;
+        else
+            keepDigits(KeyAscii);
     });
 }
 

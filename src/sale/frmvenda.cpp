@@ -12,6 +12,7 @@
 #include "platform/text/Numbers.h"
 #include "platform/window/Forms.h"
 #include "platform/window/KeyCodes.h"
+#include "products/frmcadastro_produtos.h"
 #include "sale/ProductRules.h"
 #include "sale/SaleCart.h"
 #include "sale/SaleConfirmation.h"
@@ -23,8 +24,6 @@
 frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
 {
     ui->setupUi(this);
-    // The window behind this button is still to come.
-    ui->cmdcadastro_produtos->setEnabled(false);
 
     m_discount =
         new SaleDiscount({ui->chkdesconto, ui->txtvalor_desconto, ui->txtmotivo, ui->imgdesconto, ui->lbltotal_final},
@@ -40,7 +39,10 @@ frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
     writeThrough(ui->chkrecibo, "Recibo Produtos", "Imprimir");
     opensReceiptOptions(ui->lblconfigurar_recibo, ui->chkrecibo);
     connect(ui->cmdfinalizar, &QPushButton::clicked, this, [this] { m_confirmation->cmdfinalizar_Click(); });
-    connect(ui->cmdcadastro_clientes, &QPushButton::clicked, this, &frmvenda::cmdcadastro_clientes_Click);
+    connect(ui->cmdcadastro_clientes, &QPushButton::clicked, this,
+            [this] { visit<frmcadastro_clientes>(&frmvenda::Listar_Clientes); });
+    connect(ui->cmdcadastro_produtos, &QPushButton::clicked, this,
+            [this] { visit<frmcadastro_produtos>(&frmvenda::Listar_Produtos); });
     connect(ui->cmdcancelar, &QPushButton::clicked, this, [this] {
         if (!m_discount->Bloqueio_Desconto)
             Unload();
@@ -169,16 +171,14 @@ void frmvenda::showChange()
     ui->lbltroco->setCaption(change > 0 ? withSymbol(change) : noChangeText());
 }
 
-void frmvenda::cmdcadastro_clientes_Click()
+template <typename Window>
+void frmvenda::visit(void (frmvenda::*refill)())
 {
     DoEvents();
-    auto &window = Forms::use<frmcadastro_clientes>();
-    window.Show();
-    Sempre_No_Topo(window, true);
-    Aguardar_Form(window.Name());
+    showAndWait(Forms::use<Window>());
     // This window may have gone with the program while it waited.
     if (!isLoaded())
         return;
-    Listar_Clientes();
+    (this->*refill)();
     DoEvents();
 }

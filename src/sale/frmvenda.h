@@ -42,7 +42,9 @@ private:
     void lbltotal_final_Change();
     void txtvalor_pago_Change();
     void showChange();
-    void cmdcadastro_clientes_Click();
+    /// Waits until a window of the registrations is closed and takes over what is new there.
+    template <typename Window>
+    void visit(void (frmvenda::*refill)());
 
     std::unique_ptr<Ui::frmvenda> ui;
     SaleState m_state;

@@ -15,6 +15,7 @@
 #include "platform/window/Forms.h"
 #include "platform/window/Pictures.h"
 #include "platform/window/Prompts.h"
+#include "products/frmcadastro_produtos.h"
 #include "sale/frmvenda.h"
 #include "ui_frmprincipal.h"
 
@@ -31,8 +32,6 @@ const QString noFile = "Arquivo não encontrado!";
 const QString blocked = "A execução do programa está bloqueada. Solicite permissão ao administrador!";
 const QString warning = "Aviso";
 
-constexpr int hourglass = 11;
-constexpr int usualPointer = 0;
 constexpr int fullBar = 100;
 constexpr int barStep = 10;
 constexpr auto barInterval = std::chrono::milliseconds(100);
@@ -70,7 +69,7 @@ frmprincipal::frmprincipal() : ui(std::make_unique<Ui::frmprincipal>())
     const RefusalTexts longTexts{languageLong(), badPath + " " + adviceOnRights, noFile + " " + adviceOnRights};
     const RefusalTexts shortTexts{noLanguage, badPath, noFile};
     m_doors = {{ui->cmdclientes, [] { Forms::use<frmcadastro_clientes>().Show(); }, longTexts},
-               {ui->cmdprodutos, {}, shortTexts},
+               {ui->cmdprodutos, [] { Forms::use<frmcadastro_produtos>().Show(); }, shortTexts},
                {ui->cmdvendaprod, [] { Forms::use<frmvenda>().Show(); }, shortTexts}};
     for (const Door &door : std::as_const(m_doors))
         connect(door.button, &QPushButton::clicked, this, [this, &door] { press(door); });
@@ -143,7 +142,7 @@ void frmprincipal::stopLoading()
 void frmprincipal::enableDoors(bool enabled)
 {
     for (const Door &door : std::as_const(m_doors))
-        door.button->setEnabled(enabled && door.show);
+        door.button->setEnabled(enabled);
 }
 
 void frmprincipal::temp_Timer()
@@ -205,9 +204,9 @@ void frmprincipal::enter(const Door &door)
 
     CaminhoBD = path;
     Gravar_INI(ArquivoConfigIni, "Configuracoes", "BD", CaminhoBD);
-    setMousePointer(hourglass);
+    setMousePointer(vbHourglass);
     door.show();
-    setMousePointer(usualPointer);
+    setMousePointer(vbDefault);
 }
 
 void frmprincipal::Form_Unload()

@@ -2,6 +2,7 @@
 
 #include "platform/window/Forms.h"
 #include "platform/window/KeyCodes.h"
+#include "platform/window/TextBox.h"
 
 #include <QWidget>
 
@@ -37,5 +38,21 @@ void takesEntriesOnly(Combo *combo)
     QObject::connect(combo, &Combo::KeyDown, combo, [](int &KeyCode) {
         if (KeyCode == vbKeyBack || KeyCode == vbKeyDelete)
             KeyCode = 0;
+    });
+}
+
+/// Lets digits and Backspace through.
+inline void keepDigits(int &KeyAscii)
+{
+    if ((KeyAscii < '0' || KeyAscii > '9') && KeyAscii != vbKeyBack)
+        KeyAscii = 0;
+}
+
+/// After each change the caret stands behind the last character, wherever the keyboard is.
+inline void caretToEndOnChange(TextBox *box)
+{
+    QObject::connect(box, &TextBox::Change, box, [box] {
+        DoEvents(WaitingInput::Stays);
+        box->end(false);
     });
 }

@@ -1,0 +1,76 @@
+#include "products/ProductEditing.h"
+
+#include "data/FirstRow.h"
+#include "platform/text/Numbers.h"
+#include "platform/window/Prompts.h"
+#include "products/ProductColumns.h"
+#include "products/ProductForm.h"
+#include "products/ProductList.h"
+#include "products/ProductRecord.h"
+#include "products/ProductState.h"
+#include "products/ProductStatements.h"
+#include "products/ProductTexts.h"
+#include "products/ProductUniqueness.h"
+#include "products/SoldProducts.h"
+#include "ui_frmcadastro_produtos.h"
+
+ProductEditing::ProductEditing(Ui::frmcadastro_produtos &window, ProductState &state, ProductForm &form,
+                               ProductList &list)
+    : ui(window), m_state(state), m_form(form), m_list(list)
+{
+}
+
+void ProductEditing::cmdeditar_Click()
+{
+    if (ui.cmdeditar->text() == productTexts.loaded("String7"))
+        begin();
+    else if (!productTexts.confirms("MsgBox14", "MsgBox11_2", vbQuestion) || save())
+        end();
+}
+
+void ProductEditing::begin()
+{
+    if (m_state.LinhaSelecionada < 1 || ui.tab_produtos->RowSel() < 1) {
+        productTexts.notice("MsgBox13");
+        return;
+    }
+    setUnderEdit(true);
+    m_state.CodigoEditado = Val(ui.tab_produtos->TextMatrix(m_state.LinhaSelecionada, ProductColumn::Codigo));
+    m_state.LinhaEditada = m_state.LinhaSelecionada;
+    m_form.show(m_list.product(m_state.LinhaEditada));
+    if (m_state.CodigoEditado == reservedProduct)
+        m_form.setReservedEnabled(false);
+}
+
+bool ProductEditing::save()
+{
+    if (!m_form.testar_valores({.apostrophe = "MsgBox15", .noStock = "MsgBox16", .negativeStock = "MsgBox17"}))
+        return false;
+    if (isEditedProductTaken(ui))
+        return false;
+    const ProductRecord product = m_form.record();
+    const auto execute = [](const QString &sql) { OnErrorResumeNext([&] { executeStatement(sql); }); };
+    execute(updateStatement(product, m_state.CodigoEditado));
+    updateSoldProducts("Categoria = '" + product.Categoria + "' Where Descrição = '" + product.Descrição + "'",
+                       execute);
+    OnErrorResumeNext([&] { m_list.showProduct(m_state.LinhaEditada, product); });
+    // Not after a no: then the supplier stays locked until the reserved product is saved. It stays.
+    if (m_state.CodigoEditado == reservedProduct)
+        m_form.setReservedEnabled(true);
+    return true;
+}
+
+void ProductEditing::end()
+{
+    setUnderEdit(false);
+    m_form.clear();
+}
+
+void ProductEditing::setUnderEdit(bool underEdit)
+{
+    for (QPushButton *button : {ui.cmdcategoria, ui.cmdadicionar, ui.cmdremover})
+        button->setEnabled(!underEdit);
+    // The sales refer to the description, so that it never changes.
+    ui.txtdescrição->setEnabled(!underEdit);
+    ui.cmdeditar->setText(productTexts.loaded(underEdit ? "String8" : "String7"));
+}

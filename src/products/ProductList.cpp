@@ -1,0 +1,187 @@
+#include "products/ProductList.h"
+
+#include "configuration/Globais.h"
+#include "data/Acesso_BD.h"
+#include "platform/base/Err.h"
+#include "platform/text/Numbers.h"
+#include "platform/window/BoxKeys.h"
+#include "platform/window/Pictures.h"
+#include "products/ListTotal.h"
+#include "products/ProductColumns.h"
+#include "products/ProductRecord.h"
+#include "products/ProductState.h"
+#include "products/ProductTexts.h"
+#include "ui_frmcadastro_produtos.h"
+
+namespace {
+constexpr QSize searchPictureSize(20, 20);
+const QString none = "-";
+const QString service = "X";
+
+QString menuText(bool inMenu)
+{
+    return productTexts.loaded(inMenu ? "String6" : "String5");
+}
+
+/// Headings of the list. The last two, of date and time, fall away with their columns.
+QString headings()
+{
+    constexpr int headingCount = 12;
+    QStringList texts{"<       "};
+    for (int number = 1; number <= headingCount; ++number)
+        texts += productTexts.text("tab_produtos" + QString::number(number));
+    texts[ProductColumn::Price] += SimboloMoeda + "  ";
+    return texts.join("|<");
+}
+} // namespace
+
+ProductList::ProductList(Ui::frmcadastro_produtos &window, ProductState &state, QObject *parent)
+    : QObject(parent), ui(window), m_state(state)
+{
+    ui.cmdbuscar->setIconSize(searchPictureSize);
+    ui.cmdbuscar->setIcon(bundledPicture("imgprocura", searchPictureSize));
+    connect(ui.cmdbuscar, &QPushButton::clicked, this, &ProductList::cmdbuscar_Click);
+    connect(ui.txtdescrição_busca, &TextBox::KeyPress, this, [this](int &KeyAscii) {
+        if (KeyAscii == vbKeyReturn)
+            cmdbuscar_Click();
+    });
+    caretToEndOnChange(ui.txtdescrição_busca);
+    connect(ui.tab_produtos, &FlexGrid::Click, this, &ProductList::tab_produtos_Click);
+    connect(ui.tab_produtos, &FlexGrid::SelChange, this, &ProductList::tab_produtos_Click);
+}
+
+void ProductList::load()
+{
+    FlexGrid &grid = *ui.tab_produtos;
+    grid.Clear();
+    grid.setFormatString(headings());
+    grid.setCols(ProductColumn::Count);
+    grid.setRows(1);
+    m_state.Total_Produtos = 0;
+
+    RecordsetHandle rs;
+    Abrir_Recordset(rs, BancoPrincipal, "Select Count(*) from Produtos");
+    OnErrorResumeNext([&] {
+        if (rs)
+            grid.setRows(static_cast<int>(rs->Fields(0).number()) + 1);
+    });
+    Abrir_Recordset(rs, BancoPrincipal,
+                    "Select Codigo,Descrição,Categoria,Cod,Servico,Quantidade,Estoque_Min,Valor_Unitario,Fornecedor,"
+                    "Cardapio,Cod_Barra from Produtos Order By Descrição");
+    OnErrorResumeNext([&] {
+        if (rs)
+            fill(*rs);
+    });
+    Fechar_Recordset(rs);
+    grid.setRows(m_state.Total_Produtos + 1);
+    grid.setRow(0);
+    m_state.LinhaSelecionada = 0;
+    showCount();
+}
+
+void ProductList::fill(Recordset &rs)
+{
+    FlexGrid &grid = *ui.tab_produtos;
+    // Asked once, not for every row.
+    const QString inMenu = menuText(true);
+    const QString notInMenu = menuText(false);
+    const auto isTrue = [&rs](int column) { return !rs.Fields(column).isNull() && rs.Fields(column).boolean(); };
+    for (; !rs.Eof(); rs.MoveNext()) {
+        const int row = m_state.Total_Produtos + 1;
+        // A product added meanwhile at another terminal isn't counted yet.
+        if (row >= grid.Rows())
+            grid.setRows(row + 1);
+        for (int column = 0; column < ProductColumn::Count; ++column)
+            grid.setTextMatrix(row, column, rs.Fields(column).text());
+        const bool isService = isTrue(ProductColumn::Service);
+        grid.setTextMatrix(row, ProductColumn::Service, isService ? service : none);
+        if (isService)
+            for (const int column : {ProductColumn::Stock, ProductColumn::MinimumStock})
+                grid.setTextMatrix(row, column, none);
+        grid.setTextMatrix(row, ProductColumn::Menu, isTrue(ProductColumn::Menu) ? inMenu : notInMenu);
+        m_state.Total_Produtos = row;
+    }
+}
+
+void ProductList::showCount()
+{
+    showTotal(productTexts, m_state.Total_Produtos, {ui.lbltotal_produtos, ui.Lblsombraprodutos});
+}
+
+ProductRecord ProductList::product(int row) const
+{
+    const auto text = [&](int column) { return ui.tab_produtos->TextMatrix(row, column); };
+    ProductRecord product;
+    product.Descrição = text(ProductColumn::Description);
+    product.Categoria = text(ProductColumn::Category);
+    product.Cod = text(ProductColumn::Code);
+    product.Servico = text(ProductColumn::Service) != none;
+    product.Quantidade = text(ProductColumn::Stock);
+    product.Estoque_Min = text(ProductColumn::MinimumStock);
+    product.Valor_Unitario = text(ProductColumn::Price);
+    product.Fornecedor = text(ProductColumn::Supplier);
+    product.Cardapio = text(ProductColumn::Menu) == menuText(true);
+    product.Cod_Barra = text(ProductColumn::Barcode);
+    return product;
+}
+
+void ProductList::showProduct(int row, const ProductRecord &product)
+{
+    const auto show = [&](int column, const QString &text) { ui.tab_produtos->setTextMatrix(row, column, text); };
+    show(ProductColumn::Description, product.Descrição);
+    show(ProductColumn::Category, product.Categoria);
+    show(ProductColumn::Code, product.Cod);
+    show(ProductColumn::Service, product.Servico ? service : none);
+    show(ProductColumn::Stock, product.Servico ? none : product.Quantidade);
+    show(ProductColumn::MinimumStock, product.Servico ? none : product.Estoque_Min);
+    show(ProductColumn::Price, product.Valor_Unitario);
+    show(ProductColumn::Menu, menuText(product.Cardapio));
+    show(ProductColumn::Barcode, product.Cod_Barra);
+}
+
+void ProductList::addProduct(double codigo, const ProductRecord &product)
+{
+    FlexGrid &grid = *ui.tab_produtos;
+    const int row = grid.Rows();
+    grid.setRows(row + 1);
+    grid.setTextMatrix(row, ProductColumn::Codigo, Cstr(codigo));
+    grid.setTextMatrix(row, ProductColumn::Supplier, product.Fornecedor);
+    showProduct(row, product);
+    m_state.Total_Produtos = row;
+    showCount();
+}
+
+void ProductList::showMenuFlag(bool inMenu)
+{
+    FlexGrid &grid = *ui.tab_produtos;
+    for (int row = 1; row < grid.Rows(); ++row)
+        grid.setTextMatrix(row, ProductColumn::Menu, menuText(inMenu));
+}
+
+bool ProductList::Buscar_Produto(const QString &termo)
+{
+    FlexGrid &grid = *ui.tab_produtos;
+    const int found = grid.findPrefix(termo, 1, {ProductColumn::Description});
+    if (found == 0)
+        return false;
+    grid.goToRow(found, ProductColumn::Description);
+    tab_produtos_Click();
+    return true;
+}
+
+void ProductList::cmdbuscar_Click()
+{
+    TextBox &box = *ui.txtdescrição_busca;
+    if (!box.text().isEmpty())
+        box.setText(box.text().toUpper());
+    if (box.text().isEmpty() || !Buscar_Produto(box.text()))
+        productTexts.notice("MsgBox10");
+}
+
+void ProductList::tab_produtos_Click()
+{
+    const FlexGrid &grid = *ui.tab_produtos;
+    m_state.LinhaSelecionada = grid.Row();
+    if (grid.Row() > 0)
+        ui.txtdescrição_busca->setText(grid.TextMatrix(grid.Row(), ProductColumn::Description));
+}

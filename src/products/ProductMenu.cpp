@@ -1,0 +1,19 @@
+#include "products/ProductMenu.h"
+
+#include "data/Acesso_BD.h"
+#include "platform/base/Err.h"
+#include "platform/window/Prompts.h"
+#include "products/ProductList.h"
+#include "products/ProductTexts.h"
+
+void marcarCardapio(ProductList &list, bool inMenu)
+{
+    if (!productTexts.confirms(inMenu ? "MsgBox12" : "MsgBox11", "MsgBox11_2", vbQuestion))
+        return;
+    OnErrorResumeNext(
+        [&] {
+            executeStatement(
+                QString("UPDATE Produtos Set Cardapio=%1 Where Codigo > 0").arg(inMenu ? "True" : "False"));
+        },
+        [&] { list.showMenuFlag(inMenu); });
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+class ProductList;
+
+/// Sets or clears the menu flag of all products, the reserved one too, after a question.
+void marcarCardapio(ProductList &list, bool inMenu);
