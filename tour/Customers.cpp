@@ -1,15 +1,12 @@
 #include "tour/Customers.h"
 
-#include "configuration/Idiomas.h"
 #include "platform/window/Forms.h"
 #include "shell/frmprincipal.h"
-#include "tests/support/Controls.h"
 #include "tests/support/PdfText.h"
-#include "tour/Tour.h"
+#include "tour/Desk.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QLabel>
 
 namespace {
 constexpr int customersOnPage = 9;
@@ -18,47 +15,6 @@ QString text(const QString &key)
 {
     return textoIdioma("frmcadastro_clientes", key);
 }
-
-/// The attendant at the customer window.
-class Desk
-{
-public:
-    explicit Desk(Tour &tour) : m_tour(tour), m_window(loadedWindow("frmcadastro_clientes")) {}
-
-    Form &window() { return m_window; }
-    FlexGrid &list() { return control<FlexGrid>(m_window, "tab_clientes"); }
-    QString counted() { return control<QLabel>(m_window, "lbltotal_clientes").text(); }
-    /// The name that the search selected.
-    QString selected() { return list().TextMatrix(list().Row(), 1); }
-
-    /// Types into the box that has the keyboard, or leaves it as it is, and goes on with Enter.
-    void fill(const QString &entry = {})
-    {
-        QWidget &box = *m_window.focusWidget();
-        if (!entry.isEmpty())
-            replaceText(box, entry);
-        pressKey(box, Qt::Key_Return);
-    }
-    void find(const QString &beginning)
-    {
-        auto &box = control(m_window, "txtnome_busca");
-        replaceText(box, beginning);
-        pressKey(box, Qt::Key_Return);
-    }
-
-    void expectQuestion(const QString &key, const QString &titleKey, int icon = vbQuestion, int answer = vbYes)
-    {
-        m_tour.attendant().expect(text(key), vbYesNo + icon, text(titleKey), answer);
-    }
-    void expectNotice(const QString &key, const QString &titleKey)
-    {
-        m_tour.attendant().expectNotice(text(key), text(titleKey));
-    }
-
-private:
-    Tour &m_tour;
-    Form &m_window;
-};
 
 void takePhoto(Tour &tour, Desk &desk)
 {
@@ -159,7 +115,10 @@ void tourCustomers(Tour &tour)
     QCoreApplication::processEvents();
     click(main, "cmdclientes");
 
-    Desk desk(tour);
+    Desk desk(tour, {.window = "frmcadastro_clientes",
+                     .list = "tab_clientes",
+                     .count = "lbltotal_clientes",
+                     .search = "txtnome_busca"});
     tour.picture(desk.window(), "frmcadastro_clientes");
     registerCustomer(tour, desk);
     renameBuyer(tour, desk);

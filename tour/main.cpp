@@ -4,6 +4,7 @@
 #include "tour/Codes.h"
 #include "tour/Customers.h"
 #include "tour/ProductSales.h"
+#include "tour/Products.h"
 #include "tour/Tour.h"
 
 #include <QTextStream>
@@ -24,6 +25,7 @@ int main(int argc, char **argv)
         tourProductSales(tour);
         tourCustomers(tour);
         tourCodes(tour);
+        tourProducts(tour);
         tour.chapter("What the data file holds");
         tour.tellStoredSales();
         tour.attendant().finish();
