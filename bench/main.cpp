@@ -1,3 +1,4 @@
+#include "bench/CodeFigures.h"
 #include "bench/CustomerFigures.h"
 #include "bench/Figures.h"
 #include "bench/LabelFigures.h"
@@ -49,6 +50,7 @@ int main(int argc, char **argv)
         addStartFigures(table, small);
         addSaleFigures(table, small, large);
         addCustomerFigures(table, large);
+        addCodeFigures(table, small);
         addLabelFigures(table);
         return table.allWithinLimits() ? 0 : 1;
     } catch (const std::exception &error) {
