@@ -65,6 +65,7 @@ QString textoIdioma(const QString &section, const QString &key)
 
 void Carregar_Idioma()
 {
+    const IniBurst burst;
     for (const Section &section : sectionsInMemory) {
         for (const QString &key : QString(section.keys).split(' ')) {
             loadedTexts()[{section.name, key}] = textoIdioma(section.name, key);

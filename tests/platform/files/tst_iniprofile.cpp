@@ -45,6 +45,16 @@ private slots:
             store(QByteArray("[a]\nk=") + value);
             QCOMPARE(GetPrivateProfileString("a", "k", {}, 255, path()), value);
         }
+        {
+            // But in a burst, which its own writes end for what follows.
+            const IniBurst burst;
+            for (const char *value : {"2", "3"}) {
+                store(QByteArray("[a]\nk=") + value);
+                QCOMPARE(GetPrivateProfileString("a", "k", {}, 255, path()), "2");
+            }
+            QVERIFY(WritePrivateProfileString("a", "k", "4", path()));
+            QCOMPARE(GetPrivateProfileString("a", "k", {}, 255, path()), "4");
+        }
         store(QByteArray("[a]\nk=") + QString(300, u'ç').toUtf8());
         QCOMPARE(GetPrivateProfileString("a", "k", {}, 255, path()), QString(254, u'ç'));
         QCOMPARE(GetPrivateProfileString("a", "k", "fallback", 255, path("gone/config.ini")), "fallback");
