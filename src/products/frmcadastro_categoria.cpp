@@ -21,9 +21,9 @@ frmcadastro_categoria::frmcadastro_categoria() : ui(std::make_unique<Ui::frmcada
     connect(ui->cmdeditar, &QPushButton::clicked, this, [this] { m_editing->cmdeditar_Click(); });
     connect(ui->cmdremover, &QPushButton::clicked, this, &frmcadastro_categoria::cmdremover_Click);
     connect(ui->cmdimprimir, &QPushButton::clicked, this,
-            [this] { imprimirCategorias(*ui->tab_categorias, ui->lbltotal_categorias->text()); });
+            [this] { imprimirCategorias(*ui->tab_categorias, ui->lbltotal_categorias->Caption()); });
     connect(ui->cmdsalvar, &QPushButton::clicked, this,
-            [this] { salvarCategorias(*ui->tab_categorias, ui->lbltotal_categorias->text()); });
+            [this] { salvarCategorias(*ui->tab_categorias, ui->lbltotal_categorias->Caption()); });
     connect(ui->cmdsair, &QPushButton::clicked, this, &frmcadastro_categoria::Unload);
 }
 

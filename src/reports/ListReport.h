@@ -81,5 +81,5 @@ void printList(const PrintedList &list);
 /// Asks for a file to save a list in, and with the given question whether an existing one may go. Empty for a no.
 QString chooseListFile(const WindowTexts &texts, const QString &question, const QString &title);
 
-/// Writes a list over a file. What was written by the time of a failure stays. True when the whole list was written.
+/// Writes a list over a file. What was written by the time of a failure stays. True when no failure ended it.
 bool saveList(const QString &file, const SavedList &list);
