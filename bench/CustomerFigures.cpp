@@ -2,8 +2,8 @@
 
 #include "bench/Figures.h"
 #include "bench/Program.h"
+#include "bench/WorkingCopy.h"
 #include "cafe/Cafe.h"
-#include "configuration/Arquivos_INI.h"
 #include "customers/CustomerColumns.h"
 #include "customers/frmcadastro_clientes.h"
 #include "platform/window/FlexGrid.h"
@@ -12,10 +12,8 @@
 #include "tests/support/Controls.h"
 
 #include <QCoreApplication>
-#include <QTemporaryDir>
 
 #include <algorithm>
-#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -24,32 +22,20 @@ constexpr int deletedRows = 10000;
 const char *const deletedFrom[] = {"Clientes", "Codigo_Acesso", "Links"};
 const char *const followingTables[] = {"Lista_espera", "Log", "Clientes_Bloqueados", "Monitor_Impressao"};
 
-/// A café that these figures may change.
-class WorkingCopy
+/// Gives a café as many sold codes as it has sales, and links for all.
+void sellCodes(const QString &cafe)
 {
-public:
-    explicit WorkingCopy(const QString &cafe) : m_folder(cafe + "-copy-XXXXXX")
-    {
-        std::filesystem::copy(cafe.toStdString(), folder().toStdString(), std::filesystem::copy_options::recursive);
-        Gravar_INI(configFileOf(folder()), "SQL", "servidor", dataFileOf(folder()));
-        BareFile file(dataFileOf(folder()));
-        // Millions of rows scattered over an index: this connection alone takes a cache that holds them.
-        file.write(
-            "PRAGMA cache_size=-400000;"
-            "BEGIN; INSERT INTO Venda_Codigos SELECT Codigo,Data,Hora,'C'||Codigo,Nome,Nick,Valor_Total,0,Avulsa,"
-            "Desconto,Motivo_Desconto,Id_Caixa FROM Venda_Produtos;"
-            "INSERT INTO Links SELECT Codigo,Nome,'C'||Codigo FROM Clientes;"
-            "INSERT INTO Codigo_Acesso (Codigo_Acesso,Status) SELECT 'C'||Codigo,'LIVRE' FROM Clientes;");
-        for (const std::string table : followingTables)
-            file.write("INSERT INTO " + table + " SELECT Nome,Nick FROM Clientes");
-        file.write("COMMIT");
-    }
-
-    QString folder() const { return m_folder.filePath("cafe"); }
-
-private:
-    QTemporaryDir m_folder;
-};
+    BareFile file(dataFileOf(cafe));
+    // Millions of rows scattered over an index: this connection alone takes a cache that holds them.
+    file.write("PRAGMA cache_size=-400000;"
+               "BEGIN; INSERT INTO Venda_Codigos SELECT Codigo,Data,Hora,'C'||Codigo,Nome,Nick,Valor_Total,0,Avulsa,"
+               "Desconto,Motivo_Desconto,Id_Caixa FROM Venda_Produtos;"
+               "INSERT INTO Links SELECT Codigo,Nome,'C'||Codigo FROM Clientes;"
+               "INSERT INTO Codigo_Acesso (Codigo_Acesso,Status) SELECT 'C'||Codigo,'LIVRE' FROM Clientes;");
+    for (const std::string table : followingTables)
+        file.write("INSERT INTO " + table + " SELECT Nome,Nick FROM Clientes");
+    file.write("COMMIT");
+}
 
 /// The customer window on one café, worked by hand.
 class Desk
@@ -198,6 +184,7 @@ double ratioOfDeletion(Desk &desk, const QString &dataFile)
 void addCustomerFigures(FigureTable &table, const QString &cafe)
 {
     const WorkingCopy copy(cafe);
+    sellCodes(copy.folder());
     Desk desk(copy.folder());
     BareFile file(dataFileOf(copy.folder()));
     table.add("sorting the list of 32,767 customers", ratioOfSort(desk, file), 3.0);

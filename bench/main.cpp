@@ -2,6 +2,7 @@
 #include "bench/CustomerFigures.h"
 #include "bench/Figures.h"
 #include "bench/LabelFigures.h"
+#include "bench/ProductFigures.h"
 #include "bench/SaleFigures.h"
 #include "bench/StartFigures.h"
 #include "cafe/Cafe.h"
@@ -52,6 +53,7 @@ int main(int argc, char **argv)
         addCustomerFigures(table, large);
         addCodeFigures(table, small);
         addLabelFigures(table);
+        addProductFigures(table, large);
         return table.allWithinLimits() ? 0 : 1;
     } catch (const std::exception &error) {
         QTextStream(stderr) << error.what() << '\n';
