@@ -1,5 +1,4 @@
 #include "photo/Conversor_JPG.h"
-#include "photo/cDIBSection.h"
 #include "tests/support/FakeCamera.h"
 #include "tests/support/FakeMachine.h"
 #include "tests/support/FullDisk.h"
@@ -36,31 +35,7 @@ class TestJpeg : public QObject
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_machine = std::make_unique<FakeMachine>();
-        m_folder = std::make_unique<QTemporaryDir>();
-    }
-
-    void cleanup() { m_machine.reset(); }
-
-    void sectionLiesBottomUp()
-    {
-        QImage image(3, 2, QImage::Format_RGB32);
-        image.fill(qRgb(1, 2, 3));
-        image.setPixel(2, 1, qRgb(7, 8, 9));
-        cDIBSection section;
-        QVERIFY(section.CreateFromPicture(QPixmap::fromImage(image)));
-        const QByteArray bits(reinterpret_cast<const char *>(section.DIBSectionBitsPtr()),
-                              section.Header().biSizeImage);
-        QCOMPARE(bits.toHex(' '), "03 02 01 03 02 01 09 08 07 00 00 00 03 02 01 03 02 01 03 02 01 00 00 00");
-        section.LoadPictureBlt(image, 2, 1);
-        QCOMPARE(section.DIBSectionBitsPtr()[12], uchar(9));
-        QVERIFY(section.Create(349, 290));
-        QCOMPARE(section.BytesPerScanLine(), 1048);
-        for (const QSize size : {QSize(0, 5), QSize(-1, 5), QSize(100'000, 100'000)})
-            QVERIFY(!section.Create(size.width(), size.height()) && !section.DIBSectionBitsPtr());
-    }
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
     void fileHoldsThePicture()
     {
@@ -73,23 +48,23 @@ private slots:
             const double likeness = psnr(QImage(file(files().first())), picture);
             QVERIFY2(likeness > 35, qPrintable(QString::number(likeness)));
         }
-        QVERIFY(m_machine->sleeps.isEmpty());
+        QVERIFY(m_machine.sleeps.isEmpty());
     }
 
     void failuresWaitTheirTimeOut()
     {
         const QPixmap picture = QPixmap::fromImage(portrait({640, 480}));
-        const QTime begin = m_machine->clock.time();
+        const QTime begin = m_machine.clock.time();
         {
             const FullDisk full;
             Salvar_JPG(picture, file("Fototemp.jpg"));
         }
-        QCOMPARE(begin.secsTo(m_machine->clock.time()), 25);
+        QCOMPARE(begin.secsTo(m_machine.clock.time()), 25);
         Salvar_JPG(QPixmap(), file("Fototemp.jpg"));
-        QCOMPARE(begin.secsTo(m_machine->clock.time()), 50);
-        m_machine->clock.setTime(QTime(23, 59, 58));
+        QCOMPARE(begin.secsTo(m_machine.clock.time()), 50);
+        m_machine.clock.setTime(QTime(23, 59, 58));
         Salvar_JPG(picture, file("missing folder/Fototemp.jpg"));
-        QVERIFY(m_machine->clock.time() < QTime(0, 0, 1));
+        QVERIFY(m_machine.clock.time() < QTime(0, 0, 1));
         QCOMPARE(files(), QStringList());
     }
 
@@ -97,7 +72,7 @@ private:
     QString file(const QString &name) const { return m_folder->filePath(name); }
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden); }
 
-    std::unique_ptr<FakeMachine> m_machine;
+    FakeMachine m_machine;
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 

@@ -13,7 +13,8 @@ QString dots(double twips)
     return QString::number(qRound(twips * dotsPerInch / twipsPerInch));
 }
 
-/// Draws one part of a page, given in twips, and answers the picture's file.
+/// Draws one part of a page, given in twips, in greys, so that an edge between two dots keeps its place, and answers
+/// the picture's file.
 QString draw(const QString &path, int page, const QRectF &part, const QTemporaryDir &folder)
 {
     const QString picture = folder.filePath("part");
@@ -42,12 +43,6 @@ QString draw(const QString &path, int page, const QRectF &part, const QTemporary
     return picture + ".png";
 }
 } // namespace
-
-QImage pdfPicture(const QString &path, int page)
-{
-    const QTemporaryDir folder;
-    return QImage(draw(path, page, {0, 0, a4Width, a4Height}, folder));
-}
 
 QStringList pdfBarcodes(const QString &path, int page, const QRectF &part)
 {
