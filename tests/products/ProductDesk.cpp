@@ -53,13 +53,6 @@ void ProductDesk::edit(int row)
     press("cmdeditar");
 }
 
-void ProductDesk::pick(int from, int to)
-{
-    clickCell(list(), from, 1);
-    if (to != from)
-        clickCell(list(), to, 1, Qt::ShiftModifier);
-}
-
 QString ProductDesk::row(int row)
 {
     QStringList texts;

@@ -4,8 +4,7 @@
 #include "tests/support/ListDesk.h"
 
 /// The products' window in a café with the categories BEBIDAS, DIVERSOS and LANCHES. Its catalogue, as it is listed:
-/// ÁGUA (3), BALA (4), CAFÉ (5, a service), and the
-/// reserved SALDO (1).
+/// ÁGUA (3), BALA (4), CAFÉ (5, a service), and the reserved SALDO (1).
 class ProductDesk : public ListDesk
 {
 public:
@@ -16,14 +15,8 @@ public:
     void fill(const QStringList &entries);
     /// Picks a row of the list and begins to edit it.
     void edit(int row);
-    /// Picks the rows from one to another, whichever way.
-    void pick(int from, int to);
 
     void expectSave(int answer = vbYes) { expectQuestion("MsgBox14", "MsgBox11_2", vbQuestion, answer); }
-    void expectTaken(const QString &key, const QString &value)
-    {
-        expectNoticeText(text(key) + value + text("MsgBox7_2"));
-    }
     /// A row of the list with "|" between its texts.
     QString row(int row);
 };

@@ -37,33 +37,27 @@ public:
             cafe.execute(
                 QString("Insert into %1 (Codigo,Categoria) values (%2,'%3')").arg(table).arg(codigo).arg(name));
     }
-    bool isTicked() { return at<QCheckBox>("chkpadrao").isChecked(); }
     void enter(const QString &name, bool isDefault = false)
     {
         type("txtnome", name);
-        if (isTicked() != isDefault)
-            press("chkpadrao");
+        at<QCheckBox>("chkpadrao").setChecked(isDefault);
     }
     void edit(int row)
     {
         clickCell(list(), row, 1);
         press("cmdeditar");
     }
-    void expectSave(int answer = vbYes) { expectQuestion("MsgBox5", "MsgBox5_2", vbQuestion, answer); }
-    void save(int answer = vbYes)
+    void expectSave() { expectQuestion("MsgBox5", "MsgBox5_2", vbQuestion, vbYes); }
+    void save()
     {
-        expectSave(answer);
+        expectSave();
         press("cmdeditar");
     }
-    void remove(int first, int last, int answer = vbYes, const QString &refusal = {})
+    void expectRemoval(int first, int last)
     {
         clickCell(list(), first, 1);
-        if (last != first)
-            clickCell(list(), last, 1, Qt::ShiftModifier);
-        expectQuestion(first == last ? "MsgBox12" : "MsgBox13", "MsgBox1_2", vbQuestion, answer);
-        if (!refusal.isEmpty())
-            expectNotice(refusal);
-        press("cmdremover");
+        clickCell(list(), last, 1, Qt::ShiftModifier);
+        expectQuestion(first == last ? "MsgBox12" : "MsgBox13", "MsgBox1_2", vbQuestion, vbYes);
     }
     void expectTaken(const QString &name) { expectNoticeText(text("MsgBox3") + name + text("MsgBox3_2")); }
 
@@ -85,11 +79,6 @@ public:
             values += row.first();
         return values.join(' ');
     }
-    bool isAtRest()
-    {
-        return shown("cmdeditar") == text("String5") && at("cmdadicionar").isEnabled() &&
-               at("cmdremover").isEnabled() && shown("txtnome").isEmpty() && !isTicked();
-    }
 };
 } // namespace
 
@@ -103,14 +92,11 @@ private slots:
     {
         Desk desk;
         for (const auto &[before, after] :
-             {std::pair("DOCES", "DOCES"), std::pair("bebidas", "BEBIDAS"), std::pair("", "DIVERSOS"),
-              std::pair("SUMIU", "DIVERSOS"), std::pair("D'ÁGUA", "DIVERSOS")}) {
+             {std::pair("bebidas", "BEBIDAS"), std::pair("SUMIU", "DIVERSOS"), std::pair("D'ÁGUA", "DIVERSOS")}) {
             desk.cafe.setIni("Categorias", "Padrao", before);
             desk.open();
             QCOMPARE(desk.standard(), QString(after));
             QCOMPARE(desk.shownRows(), QString("7BEBIDAS 1DIVERSOS 2DOCES").replace(after, after + QString("x")));
-            QCOMPARE(desk.shown("lbltotal_categorias"), "3" + desk.text("String3"));
-            QCOMPARE(desk.shown("Lblsombracategorias"), desk.shown("lbltotal_categorias"));
         }
     }
 
@@ -119,177 +105,85 @@ private slots:
         Desk desk;
         desk.cafe.execute("Delete from Categoria");
         desk.open();
-        QCOMPARE(desk.shown("lbltotal_categorias"), desk.text("String4"));
-        for (const auto &[name, refusal] : {std::pair("", "MsgBox2"), std::pair("D'ÁGUA", "MsgBox1")}) {
-            desk.expectNotice(refusal);
-            desk.enter(name);
-            desk.press("cmdadicionar");
-            QVERIFY(desk.at("txtnome").hasFocus());
-        }
+        desk.enter("D'ÁGUA");
+        desk.expectNotice("MsgBox1");
+        desk.press("cmdadicionar");
         desk.enter("água", true);
         desk.press("cmdadicionar");
-        QCOMPARE(desk.shown("lbltotal_categorias"), "1" + desk.text("String2"));
-        desk.enter("Salgados");
-        pressKey(desk.at("txtnome"), Qt::Key_Return);
-        QVERIFY(desk.at("chkpadrao").hasFocus());
+        // Added on another terminal: the name is taken, and no number is used twice.
+        desk.addCategory(8, "FRIOS");
+        desk.enter("frios", true);
+        desk.expectTaken("FRIOS");
         desk.press("cmdadicionar");
-        QCOMPARE(desk.shownRows() + ' ' + desk.standard(), QString("1ÁGUAx 2SALGADOS ÁGUA"));
-        desk.enter("salgados");
-        desk.expectTaken("SALGADOS");
-        desk.press("cmdadicionar");
+        QCOMPARE(desk.standard(), QString("ÁGUA"));
         desk.enter("doces", true);
         desk.press("cmdadicionar");
-        QCOMPARE(desk.shownRows(), QString("1ÁGUA 2SALGADOS 3DOCESx"));
-        QCOMPARE(desk.names(), QString("ÁGUA SALGADOS DOCES"));
-        QVERIFY(desk.isAtRest() && desk.at("txtnome").hasFocus());
+        QCOMPARE(desk.shownRows() + ' ' + desk.standard(), QString("1ÁGUA 9DOCESx DOCES"));
+        QCOMPARE(desk.names(), QString("ÁGUA FRIOS DOCES"));
+        QVERIFY(desk.at("txtnome").hasFocus() && desk.shown("txtnome").isEmpty());
     }
 
     void renamesEverywhere()
     {
-        for (const bool oti : {false, true}) {
-            Desk desk(oti);
-            desk.open();
-            desk.expectNotice("MsgBox4");
-            desk.press("cmdeditar");
-            desk.edit(3);
-            QVERIFY(!desk.at("cmdadicionar").isEnabled() && !desk.at("cmdremover").isEnabled());
-            // Another row picked meanwhile changes nothing.
-            clickCell(desk.list(), 1, 1);
-            for (const auto &[name, refusal] : {std::pair("D'ÁGUA", "MsgBox1"), std::pair("", "MsgBox6")}) {
-                desk.enter(name, true);
-                desk.expectSave();
-                desk.expectNotice(refusal);
-                desk.press("cmdeditar");
-            }
-            desk.enter("bebidas", true);
-            desk.expectSave();
-            desk.expectTaken("BEBIDAS");
-            desk.press("cmdeditar");
-            QCOMPARE(desk.shown("cmdeditar"), desk.text("String6"));
-            desk.enter("Doçura", true);
-            desk.save();
-            QCOMPARE(desk.shownRows() + ' ' + desk.standard(), QString("7BEBIDAS 1DIVERSOS 2DOÇURAx DOÇURA"));
-            QVERIFY(desk.isAtRest());
-            for (const QString &table : std::as_const(desk.tables))
-                QCOMPARE(desk.categoriesOf(table), QString("DIVERSOS DOÇURA BEBIDAS"));
-            // The same name in other letters, and a no.
-            desk.edit(3);
-            desk.enter("doçura", true);
-            desk.save();
-            desk.edit(1);
-            desk.enter("NADA");
-            desk.save(vbNo);
-            QVERIFY(desk.isAtRest());
-            QCOMPARE(desk.names(), QString("DIVERSOS DOÇURA BEBIDAS"));
-        }
-    }
-
-    void leavesTheDefaultToDiversos()
-    {
-        // Whatever the language calls the category that stays; no row shows the mark until the next opening.
         Desk desk;
-        desk.cafe.setIni("Config_Regional", "Idioma", "Teste.lng");
-        desk.cafe.writeFile("Languages/Teste1.lng", "[frmcadastro_categoria]\nString5=(Editar)\nString7=(BEBIDAS)\n");
-        desk.cafe.start();
-        for (const char *name : {"DOCES", "CREMES"}) {
-            desk.cafe.setIni("Categorias", "Padrao", "DOCES");
-            desk.open();
-            desk.edit(3);
-            QVERIFY(desk.isTicked());
-            desk.enter(name);
-            desk.save();
-            QCOMPARE(desk.standard(), QString("DIVERSOS"));
-            QCOMPARE(desk.shownRows(), QString("7BEBIDAS 1DIVERSOS 2") + name);
-            desk.open();
-            QVERIFY(desk.shownRows().contains("1DIVERSOSx"));
-        }
+        desk.open();
+        desk.edit(3);
+        QVERIFY(!desk.at("cmdadicionar").isEnabled() && !desk.at("cmdremover").isEnabled());
+        // Another row picked meanwhile changes nothing.
+        clickCell(desk.list(), 1, 1);
+        desk.enter("bebidas", true);
+        desk.expectSave();
+        desk.expectTaken("BEBIDAS");
+        desk.press("cmdeditar");
+        QCOMPARE(desk.shown("cmdeditar"), desk.text("String6"));
+        desk.enter("Doçura", true);
+        desk.save();
+        QCOMPARE(desk.shownRows() + ' ' + desk.standard(), QString("7BEBIDAS 1DIVERSOS 2DOÇURAx DOÇURA"));
+        QVERIFY(desk.at("cmdadicionar").isEnabled() && desk.at("cmdremover").isEnabled());
+        for (const QString &table : std::as_const(desk.tables))
+            QCOMPARE(desk.categoriesOf(table), QString("DIVERSOS DOÇURA BEBIDAS"));
+        // The mark taken away: the default falls to the category that stays, shown at the next opening.
+        desk.edit(3);
+        desk.enter("doçura");
+        desk.save();
+        QCOMPARE(desk.shownRows() + ' ' + desk.standard(), QString("7BEBIDAS 1DIVERSOS 2DOÇURA DIVERSOS"));
+        desk.open();
+        QVERIFY(desk.shownRows().contains("1DIVERSOSx"));
     }
 
     void keepsTheCategoryThatStays()
     {
         Desk desk;
         desk.open();
+        desk.expectRemoval(2, 2);
+        desk.expectNotice("MsgBox14");
+        desk.press("cmdremover");
         desk.edit(2);
         desk.enter("OUTROS", true);
         desk.expectSave();
         desk.expectNotice("MsgBox7");
         desk.press("cmdeditar");
-        desk.enter("diversos", true);
-        desk.save();
-        desk.remove(2, 2, vbYes, "MsgBox14");
-        desk.remove(3, 1, vbYes, "MsgBox14");
-        desk.remove(1, 1, vbNo);
         QCOMPARE(desk.names(), QString("DIVERSOS DOCES BEBIDAS"));
         QCOMPARE(desk.categoriesOf("Produtos"), desk.names());
     }
 
-    void removes()
+    void removesInBothDirections()
     {
-        const struct
-        {
-            bool oti;
-            int first, last;
-            QString names, categories;
-        } cases[] = {{false, 1, 1, "DIVERSOS DOCES ZERO", "DIVERSOS DOCES DIVERSOS ZERO"},
-                     {true, 3, 4, "DIVERSOS BEBIDAS", "DIVERSOS DIVERSOS BEBIDAS DIVERSOS"},
-                     {true, 4, 3, "DIVERSOS BEBIDAS", "DIVERSOS DIVERSOS BEBIDAS DIVERSOS"}};
-        for (const auto &each : cases) {
-            Desk desk(each.oti);
+        for (const auto &[first, last] : {std::pair(3, 4), std::pair(4, 3)}) {
+            Desk desk(first < last);
             desk.addCategory(9, "ZERO");
-            desk.cafe.setIni("Categorias", "Padrao", each.first == 1 ? "BEBIDAS" : "ZERO");
+            desk.cafe.setIni("Categorias", "Padrao", "ZERO");
             desk.open();
-            desk.expectNotice("MsgBox11");
+            desk.expectRemoval(first, last);
             desk.press("cmdremover");
-            desk.remove(each.first, each.last);
-            QCOMPARE(desk.names(), each.names);
+            QCOMPARE(desk.names(), QString("DIVERSOS BEBIDAS"));
             for (const QString &table : std::as_const(desk.tables))
-                QCOMPARE(desk.categoriesOf(table), each.categories);
-            QCOMPARE(desk.standard(), QString("DIVERSOS"));
-            QVERIFY(desk.shownRows().contains("1DIVERSOSx"));
+                QCOMPARE(desk.categoriesOf(table), QString("DIVERSOS DIVERSOS BEBIDAS DIVERSOS"));
+            QCOMPARE(desk.shownRows() + ' ' + desk.standard(), QString("7BEBIDAS 1DIVERSOSx DIVERSOS"));
             // Nothing is picked in the new list.
             desk.expectNotice("MsgBox4");
             desk.press("cmdeditar");
         }
-    }
-
-    void keepsWhatWasDoneBeforeAFailure()
-    {
-        // A rename goes on behind the statement that failed, a removal ends there.
-        Desk desk;
-        desk.open();
-        BareFile(desk.cafe.dataFile())
-            .write("CREATE TRIGGER locked BEFORE UPDATE ON Produtos BEGIN SELECT RAISE(ABORT, 'locked'); END");
-        desk.edit(3);
-        desk.enter("CREMES");
-        desk.save();
-        desk.remove(1, 1);
-        QCOMPARE(desk.names(), QString("DIVERSOS CREMES"));
-        QCOMPARE(desk.categoriesOf("Produtos"), QString("DIVERSOS DOCES BEBIDAS"));
-        QCOMPARE(desk.categoriesOf("Venda_Produtos"), QString("DIVERSOS CREMES BEBIDAS"));
-        QCOMPARE(desk.shownRows(), QString("7BEBIDAS 1DIVERSOSx 2CREMES"));
-    }
-
-    void worksBesideAnotherTerminal()
-    {
-        Desk desk;
-        desk.open();
-        // Gone on another terminal: its products still follow.
-        desk.cafe.execute("Delete from Categoria Where Codigo=2");
-        desk.edit(3);
-        desk.enter("CREMES");
-        desk.save();
-        QCOMPARE(desk.names(), QString("DIVERSOS BEBIDAS"));
-        QCOMPARE(desk.categoriesOf("Produtos"), QString("DIVERSOS CREMES BEBIDAS"));
-        desk.remove(3, 3);
-        QCOMPARE(desk.shownRows(), QString("7BEBIDAS 1DIVERSOSx"));
-        // Added there: the name is taken, and no number is used twice.
-        desk.addCategory(8, "FRIOS");
-        desk.enter("frios");
-        desk.expectTaken("FRIOS");
-        desk.press("cmdadicionar");
-        desk.enter("GELADOS");
-        desk.press("cmdadicionar");
-        QVERIFY(desk.shownRows().endsWith("9GELADOS"));
     }
 };
 
