@@ -1,7 +1,11 @@
 #include "tests/customers/CustomerDesk.h"
 
+#include "customers/PhotoBox.h"
 #include "platform/base/Err.h"
 
+#include <QDir>
+#include <QFile>
+#include <QImage>
 #include <QTest>
 
 namespace {
@@ -89,6 +93,24 @@ private slots:
         desk.expectSave();
         desk.press("cmdeditar");
         QCOMPARE(desk.stored("Nome,Nick,Documento,Data_Nasc")[1], QString("BIA LUZ|------|------|00/00/0000"));
+    }
+
+    void losesThePathOfThePhoto()
+    {
+        CustomerDesk desk;
+        QVERIFY(QDir().mkpath(desk.cafe.path("Fotos")));
+        QImage image(35, 29, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        QVERIFY(image.save(desk.cafe.path("Fotos/1.jpg")));
+        desk.cafe.execute("Update Clientes Set CaminhoFoto='" + desk.cafe.path("Fotos/1.jpg").toUpper() +
+                          "' Where Codigo=1");
+        desk.open();
+        desk.edit(1);
+        QCOMPARE(desk.at<PictureBox>("imgfoto").Picture().size(), QSize(35, 29));
+        desk.expectSave();
+        desk.press("cmdeditar");
+        QCOMPARE(desk.stored("CaminhoFoto").first(), QString("-----"));
+        QVERIFY(QFile::exists(desk.cafe.path("Fotos/1.jpg")));
     }
 
     void endsWithTheFirstFailure()
