@@ -70,8 +70,8 @@ public:
     int MouseCol() const { return m_mouseCol; }
 
 signals:
-    /// The attendant clicked a cell or pressed Space in the list, or clicked a heading (`MouseRow` 0). A heading gives its column to `Col` and leaves the
-    /// rows as they are.
+    /// The attendant clicked a cell or pressed Space in the list, or clicked a heading (`MouseRow` 0). A heading gives
+    /// its column to `Col` and leaves the rows as they are.
     void Click();
     /// The selection changed, by the attendant or by the program. Rows and columns that come or go tell nothing.
     void SelChange();
