@@ -17,15 +17,6 @@ QStringList column(Database &db, const QString &sql)
     return values;
 }
 
-bool isEan13(const QString &barcode)
-{
-    static const QRegularExpression form("^789\\d{10}$");
-    int sum = 0;
-    for (qsizetype i = 0; i < barcode.size(); ++i)
-        sum += barcode[i].digitValue() * (i % 2 == 0 ? 1 : 3);
-    return form.match(barcode).hasMatch() && sum % 10 == 0;
-}
-
 } // namespace
 
 /// The texts and rows that a new café folder holds.
@@ -36,11 +27,86 @@ class tst_cafe_content : public QObject
 private slots:
     void initTestCase() { createCafe(cafe(), {}); }
 
-    void languageIsComplete_data();
-    void languageIsComplete();
-    void textsFitTheReceipt_data() { languageIsComplete_data(); }
-    void keysRefuseOrRenumber();
-    void thousandsOfRowsCanBeToldApart();
+    void languageIsComplete_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const char *language : {"Portugues", "Ingles", "Espanhol"})
+            QTest::newRow(language) << language;
+    }
+
+    void languageIsComplete()
+    {
+        QFETCH(QString, language);
+        QVERIFY(WritePrivateProfileString("Config_Regional", "Idioma", language.toUpper() + ".LNG",
+                                          cafe() + "/config.ini"));
+        QCOMPARE(checkCafe(cafe()), QStringList());
+
+        const ResourceTable keys = resourceTable("language_keys.tsv");
+        // Programs lose a text without a word when its key falls out of the list, so their number is written down here.
+        QCOMPARE(keys.rows.size(), 300);
+        for (const QStringList &key : keys.rows) {
+            const QString translated = text(language, key[0], key[1]);
+            const QString original = text("Portugues", key[0], key[1]);
+            QVERIFY2(!translated.isEmpty(), qPrintable(key.join('.')));
+            // Pieces that are joined to names and numbers need their blanks in every language.
+            if (!key[1].startsWith("tab_"))
+                QVERIFY2(translated.startsWith(' ') == original.startsWith(' ') &&
+                             translated.endsWith(' ') == original.endsWith(' '),
+                         qPrintable(key.join('.')));
+        }
+    }
+
+    void keysRefuseOrRenumber()
+    {
+        createCafe(m_place.filePath("keys"), {});
+        const DatabaseHandle db = openDataFile(m_place.filePath("keys"));
+        // Two terminals that read the same highest number: a sale is stored all the same, a customer is not.
+        for (int i = 0; i < 2; ++i) {
+            db->Execute("Insert into Venda_Produtos (Codigo,Nome) values (7,'A')");
+            db->Execute("Insert into Venda_Codigos (Codigo,Nome) values (7,'A')");
+            db->Execute("Insert into Links (Codigo,Nome) values (7,'A')");
+        }
+        for (const char *table : {"Venda_Produtos", "Venda_Codigos", "Links"})
+            QCOMPARE(column(*db, QString("Select Codigo From %1 Order By Codigo").arg(table)), QStringList({"7", "8"}));
+
+        for (const char *row :
+             {"Clientes (Codigo) values (7)", "Produtos (Codigo) values (7)", "Categoria (Codigo) values (7)",
+              "Descontos (Codigo) values (7)", "Registro_Caixa (ID_Caixa) values (7)",
+              "Codigo_Acesso (Codigo_Acesso) values ('000000000007')"}) {
+            db->Execute(QString("Insert into ") + row);
+            QVERIFY_THROWS_EXCEPTION(RunTimeError, db->Execute(QString("Insert into ") + row));
+        }
+    }
+
+    void thousandsOfRowsCanBeToldApart()
+    {
+        constexpr int Customers = 32767;
+        constexpr int Products = 3000;
+        const QString folder = m_place.filePath("large");
+        createCafe(folder, {true, Customers, Products, 0, false});
+        const DatabaseHandle db = openDataFile(folder);
+        const auto repeated = [&](const QString &field, const QString &table, const QString &nothing = {}) {
+            QStringList values = column(*db, "Select " + field + " From " + table);
+            values.removeAll(nothing);
+            return values.size() - QSet<QString>(values.begin(), values.end()).size();
+        };
+        QCOMPARE(column(*db, "Select Nome From Clientes").size(), Customers);
+        QCOMPARE(column(*db, "Select Codigo From Produtos").size(), Products + 1);
+        QCOMPARE(repeated("Nome", "Clientes"), 0);
+        QCOMPARE(repeated("Nick", "Clientes", "------"), 0);
+        QCOMPARE(repeated("Documento", "Clientes", "------"), 0);
+        QCOMPARE(repeated("Descrição", "Produtos"), 0);
+        QCOMPARE(repeated("Cod", "Produtos", "---"), 0);
+        QCOMPARE(repeated("Cod_Barra", "Produtos", "-------------"), 0);
+
+        // What the boxes of the customer window hold at most.
+        const QList<std::pair<QString, int>> limits{
+            {"Nome", 50}, {"Nick", 30}, {"Rua", 33}, {"Filiacao", 50}, {"CEP", 10}};
+        for (const auto &[field, limit] : limits) {
+            for (const QString &value : column(*db, "Select " + field + " From Clientes"))
+                QVERIFY2(value == value.toUpper() && !value.isEmpty() && value.size() <= limit, qPrintable(value));
+        }
+    }
 
 private:
     QString cafe() const { return m_place.filePath("cafe"); }
@@ -57,101 +123,6 @@ QString tst_cafe_content::text(const QString &language, const QString &section, 
         value = GetPrivateProfileString(section, key, {}, 500,
                                         cafe() + QString("/Languages/%1%2.lng").arg(language).arg(number));
     return value.size() > 1 ? value.mid(1, value.size() - 2) : value;
-}
-
-void tst_cafe_content::languageIsComplete_data()
-{
-    QTest::addColumn<QString>("language");
-    for (const char *language : {"Portugues", "Ingles", "Espanhol"})
-        QTest::newRow(language) << language;
-}
-
-void tst_cafe_content::languageIsComplete()
-{
-    QFETCH(QString, language);
-    QVERIFY(
-        WritePrivateProfileString("Config_Regional", "Idioma", language.toUpper() + ".LNG", cafe() + "/config.ini"));
-    QCOMPARE(checkCafe(cafe()), QStringList());
-
-    const ResourceTable keys = resourceTable("language_keys.tsv");
-    // Programs lose a text without a word when its key falls out of the list, so their number is written down here.
-    QCOMPARE(keys.rows.size(), 300);
-    for (const QStringList &key : keys.rows) {
-        const QString translated = text(language, key[0], key[1]);
-        const QString original = text("Portugues", key[0], key[1]);
-        QVERIFY2(!translated.isEmpty(), qPrintable(key.join('.')));
-        // Pieces that are joined to names and numbers need their blanks in every language.
-        if (!key[1].startsWith("tab_"))
-            QVERIFY2(translated.startsWith(' ') == original.startsWith(' ') &&
-                         translated.endsWith(' ') == original.endsWith(' '),
-                     qPrintable(key.join('.')));
-    }
-    for (int number = 1; number <= 5; ++number) {
-        QFile file(cafe() + QString("/Languages/%1%2.lng").arg(language).arg(number));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
-        QCOMPARE(bytes.count("\r\n"), bytes.count('\n'));
-        QVERIFY(bytes.count("=\"") > 10);
-    }
-}
-
-void tst_cafe_content::keysRefuseOrRenumber()
-{
-    createCafe(m_place.filePath("keys"), {});
-    const DatabaseHandle db = openDataFile(m_place.filePath("keys"));
-    // Two terminals that read the same highest number: a sale is stored all the same, a customer is not.
-    for (int i = 0; i < 2; ++i) {
-        db->Execute("Insert into Venda_Produtos (Codigo,Nome) values (7,'A')");
-        db->Execute("Insert into Venda_Codigos (Codigo,Nome) values (7,'A')");
-        db->Execute("Insert into Links (Codigo,Nome) values (7,'A')");
-    }
-    for (const char *table : {"Venda_Produtos", "Venda_Codigos", "Links"})
-        QCOMPARE(column(*db, QString("Select Codigo From %1 Order By Codigo").arg(table)), QStringList({"7", "8"}));
-
-    for (const char *row :
-         {"Clientes (Codigo) values (7)", "Produtos (Codigo) values (7)", "Categoria (Codigo) values (7)",
-          "Descontos (Codigo) values (7)", "Registro_Caixa (ID_Caixa) values (7)",
-          "Codigo_Acesso (Codigo_Acesso) values ('000000000007')"}) {
-        db->Execute(QString("Insert into ") + row);
-        QVERIFY_THROWS_EXCEPTION(RunTimeError, db->Execute(QString("Insert into ") + row));
-    }
-}
-
-void tst_cafe_content::thousandsOfRowsCanBeToldApart()
-{
-    constexpr int Customers = 32767;
-    constexpr int Products = 3000;
-    const QString folder = m_place.filePath("large");
-    createCafe(folder, {true, Customers, Products, 0, false});
-    const DatabaseHandle db = openDataFile(folder);
-    const auto repeated = [&](const QString &field, const QString &table, const QString &nothing = {}) {
-        QStringList values = column(*db, "Select " + field + " From " + table);
-        values.removeAll(nothing);
-        return values.size() - QSet<QString>(values.begin(), values.end()).size();
-    };
-    QCOMPARE(column(*db, "Select Nome From Clientes").size(), Customers);
-    QCOMPARE(column(*db, "Select Codigo From Produtos").size(), Products + 1);
-    QCOMPARE(repeated("Nome", "Clientes"), 0);
-    QCOMPARE(repeated("Nick", "Clientes", "------"), 0);
-    QCOMPARE(repeated("Documento", "Clientes", "------"), 0);
-    QCOMPARE(repeated("Descrição", "Produtos"), 0);
-    QCOMPARE(repeated("Cod", "Produtos", "---"), 0);
-    QCOMPARE(repeated("Cod_Barra", "Produtos", "-------------"), 0);
-
-    QStringList barcodes = column(*db, "Select Cod_Barra From Produtos");
-    barcodes.removeAll("-------------");
-    QVERIFY(barcodes.size() > Products / 2);
-    for (const QString &barcode : barcodes)
-        QVERIFY2(isEan13(barcode), qPrintable(barcode));
-    // What the boxes of the customer window hold at most.
-    const QList<std::pair<QString, int>> limits{{"Nome", 50}, {"Nick", 30}, {"Rua", 33}, {"Filiacao", 50}, {"CEP", 10}};
-    for (const auto &[field, limit] : limits) {
-        for (const QString &value : column(*db, "Select " + field + " From Clientes"))
-            QVERIFY2(value == value.toUpper() && !value.isEmpty() && value.size() <= limit, qPrintable(value));
-    }
-    for (const QString &code : column(*db, "Select Cod From Produtos"))
-        QVERIFY2(code.size() == 3, qPrintable(code));
-    QVERIFY(column(*db, "Select Nome From Categoria").size() >= 8);
 }
 
 QTEST_GUILESS_MAIN(tst_cafe_content)

@@ -2,9 +2,7 @@
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
 #include "configuration/Idiomas.h"
-#include "configuration/Registros.h"
 #include "platform/base/Err.h"
-#include "tests/support/FakeMachine.h"
 
 #include <QApplication>
 #include <QDir>
@@ -37,27 +35,11 @@ private slots:
         QCOMPARE(Pasta_Do_Arquivo("/srv/cafe/\\Morvelane.mdb"), QString("/srv/cafe/\\"));
     }
 
-    void valuesComeAsTheyStand()
+    void whatCannotBeWrittenIsLostWithoutAWord()
     {
-        for (const auto &[value, read] : std::initializer_list<std::pair<QString, QString>>{
-                 {" 0", " 0"}, {"\"R$\"", "\"R$\""}, {"", ""}, {QString(300, u'ã'), QString(254, u'ã')}}) {
-            Gravar_INI(caminhoConfig(), "Modulo Externo", "Ativo", value);
-            QCOMPARE(Ler_INI(caminhoConfig(), "MODULO externo", "ativo"), read);
-        }
-        // Another path is followed at once, and what can't be written there is lost without a word.
         CaminhoBD = "/dev/null/Morvelane.mdb";
         Gravar_INI(caminhoConfig(), "Modulo Externo", "Ativo", "1");
         QCOMPARE(Ler_INI(caminhoConfig(), "Modulo Externo", "Ativo"), QString());
-    }
-
-    void registryAnswersTheDefaultPrinter()
-    {
-        const QString key = "HKEY_CURRENT_CONFIG\\System\\CurrentControlSet\\Control\\Print\\Printers";
-        FakeMachine machine;
-        machine.defaultPrinter = "  EPSON LX-300 ";
-        QCOMPARE(Ler_Registro(key, "Default"), QString("EPSON LX-300"));
-        QCOMPARE(Ler_Registro(key, "Another"), QString("Error"));
-        QCOMPARE(Ler_Registro("HKEY_USERS\\System", "Default"), QString("Error"));
     }
 
     void textsComeFromTheFirstFileThatHoldsThem()

@@ -34,7 +34,6 @@ struct Shell
     }
     QWidget &at(const QString &name) const { return control(*window, name); }
     bool ready() const { return at("cmdvendaprod").isEnabled(); }
-    QString path() const { return at("txtbasedados").property("text").toString(); }
     QString pointerFile() const { return cafe.programFolder() + "/ConfigIni.txt"; }
     QString pointer() const { return Ler_INI(pointerFile(), "Configuracoes", "BD"); }
     /// Whether the door opens the sale window, which is closed again.
@@ -46,11 +45,6 @@ struct Shell
         if (entered)
             forms[1]->Unload();
         return entered;
-    }
-    void choose(const QString &file, const Attendant::Action &meanwhile = {})
-    {
-        attendant.expectOpenFile("Morvelane.mdb (Morvelane.mdb) |Morvelane.mdb|", file, meanwhile);
-        click(at("cmdbuscabd"));
     }
 };
 } // namespace
@@ -86,7 +80,8 @@ private slots:
         shell.open();
         QVERIFY(!shell.ready());
         shell.cafe.setIni("Config_Regional", "Idioma", "Portugues.lng");
-        shell.choose(shell.cafe.dataFile());
+        shell.attendant.expectOpenFile("Morvelane.mdb (Morvelane.mdb) |Morvelane.mdb|", shell.cafe.dataFile());
+        click(shell.at("cmdbuscabd"));
         QVERIFY(shell.ready());
     }
 
@@ -143,18 +138,6 @@ private slots:
             QVERIFY(shell.enters());
             QCOMPARE((QStringList{CaminhoBD, SimboloMoeda, shell.pointer()}), row + QStringList{row[0]});
         }
-    }
-
-    void choosesFile()
-    {
-        Shell shell;
-        shell.open();
-        shell.choose(shell.cafe.path("none/Morvelane.mdb"),
-                     [&] { shell.attendant.expectNotice("Caminho do arquivo inválido! " + advice, "Aviso"); });
-        QCOMPARE(shell.path(), shell.cafe.dataFile());
-        shell.choose(shell.cafe.path("config.ini"));
-        QCOMPARE(shell.path(), shell.cafe.path("config.ini"));
-        QCOMPARE(CaminhoBD + shell.pointer(), shell.cafe.dataFile() + shell.cafe.dataFile());
     }
 };
 

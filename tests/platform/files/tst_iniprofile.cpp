@@ -80,20 +80,6 @@ private slots:
         check(QByteArray("\0\r\xFF\n[a]\r\r\nk=\0\n\r", 15), "1", QByteArray("\0\r\xFF\n[a]\r\r\nk=1\n\r", 15));
     }
 
-    void survivesNoise()
-    {
-        QByteArray noise;
-        for (quint32 state = 1; noise.size() < 1'000'000; state = state * 1664525 + 1013904223)
-            noise.append(static_cast<char>(state >> 24));
-        for (const QByteArray &bytes : {noise, QByteArray(1'000'000, '['), QByteArray(1'000'000, '\0')}) {
-            store(bytes);
-            QCOMPARE(GetPrivateProfileString("Som", "Ativo", "fallback", 255, path()), "fallback");
-            QVERIFY(WritePrivateProfileString("Som", "Ativo", "0", path()));
-            QVERIFY(stored().startsWith(bytes));
-            QCOMPARE(GetPrivateProfileString("Som", "Ativo", "fallback", 255, path()), "0");
-        }
-    }
-
     void losesNothingWhenItCannotWrite()
     {
         const QByteArray before = "[a]\nk=" + QByteArray(5000, 'x') + "\n";

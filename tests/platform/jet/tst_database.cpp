@@ -10,195 +10,140 @@ class tst_database : public QObject
     Q_OBJECT
 
 private slots:
-    void refusesWhatIsNoDataFile_data();
-    void refusesWhatIsNoDataFile();
-    void runsEachSchemaStepOnce();
-    void undoesAFailedSchemaStep();
-    void refusesATakenKey();
-    void renumbersATakenKey();
-    void undoesAFailedTransaction();
-    void servesAgainWhenTheShareComesBack();
-    void losesNoHalfTransaction();
-    void reportsDamage();
-    void copiesItself();
-};
-
-void tst_database::refusesWhatIsNoDataFile_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("connect");
-    QTest::addColumn<int>("error");
-    QTest::newRow("missing") << "Nenhum.mdb" << connectText << ErrorNumber::CannotOpenFile;
-    QTest::newRow("missing folder") << "nada/Dados.mdb" << connectText << ErrorNumber::CannotOpenFile;
-    QTest::newRow("folder") << "" << connectText << ErrorNumber::CannotOpenFile;
-    QTest::newRow("zero bytes") << "zero" << connectText << ErrorNumber::UnrecognisedFormat;
-    QTest::newRow("noise") << "noise" << connectText << ErrorNumber::UnrecognisedFormat;
-    QTest::newRow("short noise") << "short" << connectText << ErrorNumber::UnrecognisedFormat;
-    QTest::newRow("wrong password") << "Dados.mdb"
-                                    << ";PWD=outra" << ErrorNumber::UnrecognisedFormat;
-    QTest::newRow("no password") << "Dados.mdb"
-                                 << "" << ErrorNumber::UnrecognisedFormat;
-    QTest::newRow("first page lost") << "torn" << connectText << ErrorNumber::UnrecognisedFormat;
-}
-
-void tst_database::refusesWhatIsNoDataFile()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, connect);
-    QFETCH(int, error);
-    DataFile file;
-    file.write("zero", {});
-    file.write("noise", QByteArray(50'000, '\x5A'));
-    file.write("short", "SQLite format 3");
-    file.db->Close();
-    file.write("torn", file.bytes().replace(20, 900, QByteArray(900, '\0')));
-    const QByteArray before = name == "Dados.mdb" ? file.bytes() : QByteArray();
-
-    QCOMPARE(errorOf([&] { DBEngine::Workspaces(0).OpenDatabase(file.path(name), false, false, connect); }), error);
-    QVERIFY(errorOf([&] { DBEngine::RepairDatabase(file.path(name)); }) != 0);
-    QCOMPARE(QFile::exists(file.path("Nenhum.mdb")), false);
-    QCOMPARE(QFileInfo(file.path("zero")).size(), 0);
-    if (!before.isEmpty())
-        QCOMPARE(file.bytes(), before);
-}
-
-void tst_database::runsEachSchemaStepOnce()
-{
-    const DataFile file;
-    QList<SchemaStep> steps = DataFile::steps();
-    file.db->applySchema(steps);
-    QCOMPARE(file.db->schemaVersion(), 1);
-    steps.append({2, {{"Nova", {{"Nome", FieldType::Text}}, KeyKind::None, {}, {}}}});
-    file.open()->applySchema(steps);
-    QCOMPARE(file.db->schemaVersion(), 2);
-    QCOMPARE(file.answer("Select Count(*) From NOVA"), "0");
-}
-
-void tst_database::undoesAFailedSchemaStep()
-{
-    const DataFile file;
-    const TableDef fresh{"Nova", {{"Nome", FieldType::Text}}, KeyKind::None, {}, {}};
-    const TableDef taken{"Vendas", {{"Nome", FieldType::Text}}, KeyKind::None, {}, {}};
-    QVERIFY(errorOf([&] { file.db->applySchema({{2, {fresh, taken}}}); }) != 0);
-    QCOMPARE(file.db->schemaVersion(), 1);
-    QCOMPARE(file.db->TableDefs().size(), 2);
-}
-
-void tst_database::refusesATakenKey()
-{
-    const DataFile file;
-    file.db->Execute("Insert into Produtos (Codigo,Descrição) values (1,'A')");
-    QCOMPARE(errorOf([&] { file.db->Execute("Insert into Produtos (Codigo,Descrição) values (1,'B')"); }),
-             ErrorNumber::DuplicateKey);
-    file.db->Execute("Insert into Produtos (Codigo) values (Null)");
-    file.db->Execute("Insert into Produtos (Codigo) values (Null)");
-    QCOMPARE(file.answer("Select Codigo,Descrição From Produtos Order By Codigo"), "~|~ ~|~ 1|A");
-}
-
-void tst_database::renumbersATakenKey()
-{
-    const DataFile file;
-    for (const char *row : {"5,'a'", "5,'b'", "2,'c'", "5,'d'", "Null,'e'", "Null,'f'"})
-        file.db->Execute("Insert into Vendas (Codigo,Nome) values (" + QString(row) + ")");
-    QCOMPARE(file.answer("Select Codigo,Nome From Vendas Order By Nome"), "5|a 6|b 2|c 7|d ~|e ~|f");
-}
-
-void tst_database::undoesAFailedTransaction()
-{
-    const DataFile file;
-    QCOMPARE(errorOf([&] {
-                 file.db->inTransaction([&] {
-                     file.db->Execute("Insert into Vendas (Codigo) values (1)");
-                     file.db->Execute("Insert into Nenhuma (Codigo) values (1)");
-                 });
-             }),
-             ErrorNumber::UnknownTable);
-    QCOMPARE(file.answer("Select Count(*) From Vendas"), "0");
-    file.db->inTransaction([&] { file.db->Execute("Insert into Vendas (Codigo) values (1)"); });
-    QCOMPARE(DataFile::answer(file.open(), "Select Count(*) From Vendas"), "1");
-}
-
-void tst_database::servesAgainWhenTheShareComesBack()
-{
-    const DataFile file;
-    const QString away = file.path("longe.mdb");
-    for (int round = 0; round < 2; ++round) {
-        QVERIFY(QFile::rename(file.path(), away));
-        QVERIFY(errorOf([&] { file.db->Execute("Insert into Vendas (Codigo) values (1)"); }) != 0);
-        QVERIFY(errorOf([&] { file.answer("Select * From Vendas"); }) != 0);
-        QVERIFY(!QFile::exists(file.path()));
-        QVERIFY(QFile::rename(away, file.path()));
-        file.db->Execute("Insert into Vendas (Codigo) values (7)");
+    void refusesWhatIsNoDataFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("connect");
+        QTest::addColumn<int>("error");
+        const auto row = [](const char *name, int error, const QString &password = connectText) {
+            QTest::newRow(name) << QString(name) << password << error;
+        };
+        row("Nenhum.mdb", ErrorNumber::CannotOpenFile);
+        row("zero", ErrorNumber::UnrecognisedFormat);
+        row("noise", ErrorNumber::UnrecognisedFormat);
+        row("torn", ErrorNumber::UnrecognisedFormat);
+        row("Dados.mdb", ErrorNumber::UnrecognisedFormat, ";PWD=outra");
     }
-    QCOMPARE(file.answer("Select Codigo From Vendas"), "7 8");
-}
 
-void tst_database::losesNoHalfTransaction()
-{
-    const DataFile file;
-    const QString away = file.path("longe.mdb");
-    QVERIFY(errorOf([&] {
-                file.db->inTransaction([&] {
-                    file.db->Execute("Insert into Vendas (Codigo) values (1)");
-                    QVERIFY(QFile::rename(file.path(), away));
-                    errorOf([&] { file.db->Execute("Insert into Vendas (Codigo) values (2)"); });
-                    QVERIFY(QFile::rename(away, file.path()));
-                    file.db->Execute("Insert into Vendas (Codigo) values (3)");
-                });
-            }) != 0);
-    QCOMPARE(file.answer("Select Count(*) From Vendas"), "0");
-}
+    void refusesWhatIsNoDataFile()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, connect);
+        QFETCH(int, error);
+        DataFile file;
+        file.write("zero", {});
+        file.write("noise", QByteArray(50'000, '\x5A'));
+        file.db->Close();
+        file.write("torn", file.bytes().replace(20, 900, QByteArray(900, '\0')));
+        const QByteArray before = name == "Dados.mdb" ? file.bytes() : QByteArray();
 
-void tst_database::reportsDamage()
-{
-    DataFile file;
-    file.db->inTransaction([&] {
-        for (int i = 0; i < 2'000; ++i)
-            file.db->Execute(QString("Insert into Vendas (Codigo,Nome) values (%1,'%2')").arg(i).arg(i, 60));
-    });
-    QCOMPARE(file.db->checkIntegrity(), QStringList());
-    file.db->Close();
+        QCOMPARE(errorOf([&] { DBEngine::Workspaces(0).OpenDatabase(file.path(name), false, false, connect); }), error);
+        QVERIFY(errorOf([&] { DBEngine::RepairDatabase(file.path(name)); }) != 0);
+        QCOMPARE(QFile::exists(file.path("Nenhum.mdb")), false);
+        QCOMPARE(QFileInfo(file.path("zero")).size(), 0);
+        if (!before.isEmpty())
+            QCOMPARE(file.bytes(), before);
+    }
 
-    const QByteArray sound = file.bytes();
-    QByteArray bytes = sound;
-    bytes[bytes.size() - 20 * 1024 + 300] = static_cast<char>(~bytes[bytes.size() - 20 * 1024 + 300]);
-    file.write("onePage", bytes);
-    const DatabaseHandle db = DataFile::openAt(file.path("onePage"));
-    QVERIFY(!db->checkIntegrity().isEmpty());
-    QVERIFY(errorOf([&] { DataFile::answer(db, "Select * From Vendas"); }) != 0);
-    QVERIFY(errorOf([&] { db->backupTo(file.path("copia.mdb")); }) != 0);
-    QVERIFY(!QFile::exists(file.path("copia.mdb")));
-    QVERIFY(errorOf([&] { DBEngine::RepairDatabase(file.path("onePage")); }) != 0);
-    // What lies on sound pages is still served.
-    QCOMPARE(DataFile::answer(db, "Select Codigo From Vendas Where Codigo=1"), "1");
+    void runsASchemaStepWholeAndOnce()
+    {
+        const DataFile file;
+        const TableDef fresh{"Nova", {{"Nome", FieldType::Text}}, KeyKind::None, {}, {}};
+        const TableDef taken{"Vendas", {{"Nome", FieldType::Text}}, KeyKind::None, {}, {}};
+        QVERIFY(errorOf([&] { file.db->applySchema({{2, {fresh, taken}}}); }) != 0);
+        QCOMPARE(file.db->schemaVersion(), 1);
+        QCOMPARE(file.db->TableDefs().size(), 2);
+        for (int run = 0; run < 2; ++run)
+            file.open()->applySchema({{2, {fresh}}});
+        QCOMPARE(file.db->schemaVersion(), 2);
+        QCOMPARE(file.answer("Select Count(*) From NOVA"), "0");
+    }
 
-    file.write("torn", sound.left(sound.size() / 2));
-    DatabaseHandle torn;
-    QVERIFY(errorOf([&] {
-                torn = DataFile::openAt(file.path("torn"));
-                DataFile::answer(torn, "Select * From Vendas");
-            }) != 0);
-}
+    void renumbersOrRefusesATakenKey()
+    {
+        const DataFile file;
+        for (const char *row : {"5,'a'", "5,'b'", "2,'c'", "5,'d'", "Null,'e'", "Null,'f'"})
+            file.db->Execute("Insert into Vendas (Codigo,Nome) values (" + QString(row) + ")");
+        QCOMPARE(file.answer("Select Codigo,Nome From Vendas Order By Nome"), "5|a 6|b 2|c 7|d ~|e ~|f");
+        file.db->Execute("Insert into Produtos (Codigo) values (1)");
+        QCOMPARE(errorOf([&] { file.db->Execute("Insert into Produtos (Codigo) values (1)"); }),
+                 ErrorNumber::DuplicateKey);
+    }
 
-void tst_database::copiesItself()
-{
-    const DataFile file;
-    file.db->Execute("Insert into Vendas (Codigo,Nome) values (1,'ÁGUA')");
-    const QString copy = file.path("copia.mdb");
-    file.write("copia.mdb", "an older copy");
-    file.db->backupTo(copy);
-    const DatabaseHandle copied = DataFile::openAt(copy);
-    QCOMPARE(DataFile::answer(copied, "Select * From Vendas"), "1|ÁGUA|False");
-    QCOMPARE(copied->schemaVersion(), 1);
-    QCOMPARE(copied->checkIntegrity(), QStringList());
-    QCOMPARE(DataFile::answer(copied, "Select Codigo From Vendas Where Nome='ÁGUA'"), "1");
+    void servesAgainWhenTheShareComesBack()
+    {
+        const DataFile file;
+        const QString away = file.path("longe.mdb");
+        for (int round = 0; round < 2; ++round) {
+            QVERIFY(QFile::rename(file.path(), away));
+            QVERIFY(errorOf([&] { file.db->Execute("Insert into Vendas (Codigo) values (1)"); }) != 0);
+            QVERIFY(errorOf([&] { file.answer("Select * From Vendas"); }) != 0);
+            QVERIFY(!QFile::exists(file.path()));
+            QVERIFY(QFile::rename(away, file.path()));
+            file.db->Execute("Insert into Vendas (Codigo) values (7)");
+        }
+        QCOMPARE(file.answer("Select Codigo From Vendas"), "7 8");
+    }
 
-    QVERIFY(errorOf([&] { file.db->backupTo(file.path("DADOS.mdb")); }) != 0);
-    QVERIFY(errorOf([&] { file.db->backupTo(file.path("")); }) != 0);
-    QVERIFY(errorOf([&] { file.db->backupTo(file.path("nada/copia.mdb")); }) != 0);
-    QCOMPARE(QDir(file.path("")).entryList(QDir::Files), QStringList({"copia.mdb", "Dados.mdb"}));
-    QCOMPARE(file.answer("Select Codigo From Vendas"), "1");
-}
+    void losesNoHalfTransaction()
+    {
+        const DataFile file;
+        const QString away = file.path("longe.mdb");
+        QVERIFY(errorOf([&] {
+                    file.db->inTransaction([&] {
+                        file.db->Execute("Insert into Vendas (Codigo) values (1)");
+                        QVERIFY(QFile::rename(file.path(), away));
+                        errorOf([&] { file.db->Execute("Insert into Vendas (Codigo) values (2)"); });
+                        QVERIFY(QFile::rename(away, file.path()));
+                        file.db->Execute("Insert into Vendas (Codigo) values (3)");
+                    });
+                }) != 0);
+        QCOMPARE(file.answer("Select Count(*) From Vendas"), "0");
+    }
+
+    void reportsDamage()
+    {
+        DataFile file;
+        file.db->inTransaction([&] {
+            for (int i = 0; i < 2'000; ++i)
+                file.db->Execute(QString("Insert into Vendas (Codigo,Nome) values (%1,'%2')").arg(i).arg(i, 60));
+        });
+        QCOMPARE(file.db->checkIntegrity(), QStringList());
+        file.db->Close();
+
+        QByteArray bytes = file.bytes();
+        bytes[bytes.size() - 20 * 1024 + 300] = static_cast<char>(~bytes[bytes.size() - 20 * 1024 + 300]);
+        file.write("onePage", bytes);
+        const DatabaseHandle db = DataFile::openAt(file.path("onePage"));
+        QVERIFY(!db->checkIntegrity().isEmpty());
+        QVERIFY(errorOf([&] { DataFile::answer(db, "Select * From Vendas"); }) != 0);
+        QVERIFY(errorOf([&] { db->backupTo(file.path("copia.mdb")); }) != 0);
+        QVERIFY(!QFile::exists(file.path("copia.mdb")));
+        QVERIFY(errorOf([&] { DBEngine::RepairDatabase(file.path("onePage")); }) != 0);
+        // What lies on sound pages is still served.
+        QCOMPARE(DataFile::answer(db, "Select Codigo From Vendas Where Codigo=1"), "1");
+
+        file.write("torn", bytes.left(bytes.size() / 2));
+        QVERIFY(errorOf([&] { DataFile::answer(DataFile::openAt(file.path("torn")), "Select * From Vendas"); }) != 0);
+    }
+
+    void copiesItself()
+    {
+        const DataFile file;
+        file.db->Execute("Insert into Vendas (Codigo,Nome) values (1,'ÁGUA')");
+        const QString copy = file.path("copia.mdb");
+        file.write("copia.mdb", "an older copy");
+        file.db->backupTo(copy);
+        const DatabaseHandle copied = DataFile::openAt(copy);
+        QCOMPARE(DataFile::answer(copied, "Select * From Vendas"), "1|ÁGUA|False");
+        QCOMPARE(copied->schemaVersion(), 1);
+
+        QVERIFY(errorOf([&] { file.db->backupTo(file.path("DADOS.mdb")); }) != 0);
+        QVERIFY(errorOf([&] { file.db->backupTo(file.path("")); }) != 0);
+        QCOMPARE(QDir(file.path("")).entryList(QDir::Files), QStringList({"copia.mdb", "Dados.mdb"}));
+        QCOMPARE(file.answer("Select Codigo From Vendas"), "1");
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_database)
 #include "tst_database.moc"

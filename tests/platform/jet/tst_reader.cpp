@@ -9,152 +9,117 @@ class tst_reader : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void answers_data();
-    void answers();
-    void refuses_data();
-    void refuses();
-    void refusesEndlessNesting_data();
-    void refusesEndlessNesting();
-    void deletesARangeOfTensOfThousands();
+    void initTestCase()
+    {
+        RegionalSettings::use(QLocale("pt_BR"));
+        for (const char *row : {"1,'ÁGUA','10','2,50',False,'Bebidas'", "2,'BALA','9,5','0,10',True,'Doces'",
+                                "3,'D''ÁGUA','0','x',False,'doces'", "4,Null,Null,Null,False,'DOÇURA'"})
+            m_file.db->Execute("Insert into Produtos (Codigo,Descrição,Quantidade,Valor,Servico,Categoria) values (" +
+                               QString(row) + ")");
+        m_file.db->Execute("Insert into Vendas (Codigo,Nome) values (2,'BALA')");
+    }
+
+    void answers_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<QString>("expected");
+        const auto where = [](const char *condition, const char *codes) {
+            QTest::newRow(condition) << QString("Select Codigo From Produtos Where %1 Order By Codigo").arg(condition)
+                                     << codes;
+        };
+        QTest::newRow("any case") << "SELECT max(CODIGO),MIN(codigo), Count ( * ) ,Count(VALOR) from PRODUTOS"
+                                  << "4|1|4|3";
+        QTest::newRow("all fields") << "select * from produtos where codigo=2;"
+                                    << "2|BALA|9,5|0,10|True|Doces";
+        QTest::newRow("two orders") << "Select Codigo From Produtos Order By Servico Asc, Val(Quantidade) Desc, Codigo"
+                                    << "2 1 3 4";
+        where("descriÇÃO='água'", "");
+        where("[descrição] = 'ÁGUA'", "1");
+        where("Codigo=1 OR Codigo=2 AND Servico=False", "1");
+        where("(Codigo=1 OR Codigo=2) AND Servico = True", "2");
+        where("Codigo In (1, 3) Or Descrição In (Select nome From Vendas Where Codigo=2)", "1 2 3");
+        where("Descrição Is Not Null And Descrição <> 'BALA'", "1 3");
+        where("Cdbl(Quantidade)>=Cdbl('9,50') And Codigo < 3", "1 2");
+        where("Quantidade - '0,5' = 9 And Codigo=2", "2");
+        where("Servico=255 Or Servico=-1", "2");
+        where("Categoria='doçura' Or categoria='bebidas'", "1 4");
+        where("Codigo=Null", "");
+    }
+
+    void answers()
+    {
+        QFETCH(QString, sql);
+        QFETCH(QString, expected);
+        QCOMPARE(m_file.answer(sql), expected);
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<int>("error");
+        const auto refused = [](const char *sql, int error) { QTest::newRow(sql) << QString(sql) << error; };
+        using namespace ErrorNumber;
+        refused("", BadSql);
+        refused("Select Codigo From Produtos Where Servico = True Categoria='x' AND Codigo=1", BadSql);
+        refused("Select * From Produtos Where Descrição='D'AGUA'", BadSql);
+        refused("Select * From Produtos Where Codigo=1 OR ", BadSql);
+        refused("Select * From Produtos Where Codigo=7,5", BadSql);
+        refused("Select * From Produtos Where Codigo=1; Delete From Produtos", BadSql);
+        refused("Select load_extension('x') From Produtos", BadSql);
+        refused("Select * From sqlite_master", UnknownTable);
+        refused("Select Nenhum From Produtos", UnknownField);
+        refused("Select * From Produtos Where Codigo In (Select Nome From Vendas Where Valor='x')", UnknownField);
+        refused("Select * From Produtos Where Descrição=1", TypeMismatch);
+        refused("Select * From Produtos Where Cdbl(Valor)=1 And Codigo>0", TypeMismatch);
+        refused("Select * From Produtos Where Codigo=Cdbl('')", TypeMismatch);
+        refused("Delete From Produtos Where Codigo=9", BadSql);
+    }
+
+    void refuses()
+    {
+        QFETCH(QString, sql);
+        QFETCH(int, error);
+        QCOMPARE(errorOf([&] { m_file.db->OpenRecordset(sql); }), error);
+    }
+
+    void refusesEndlessNesting()
+    {
+        for (const QString &condition :
+             {QString(100'000, '(') + "Codigo=1" + QString(100'000, ')'),
+              QString("Codigo In (Select Codigo From Produtos Where ").repeated(10'000) + "Codigo=1"})
+            QCOMPARE(errorOf([&] { m_file.db->OpenRecordset("Select * From Produtos Where " + condition); }),
+                     ErrorNumber::BadSql);
+        QCOMPARE(m_file.answer("Select Codigo From Produtos Where " + QString("Not ").repeated(100'000) + "Codigo=1"),
+                 "1");
+    }
+
+    void deletesARangeOfTensOfThousands()
+    {
+        constexpr int rows = 32'766;
+        DataFile file;
+        QStringList codes;
+        QStringList names;
+        file.db->inTransaction([&] {
+            for (int i = 1; i <= rows; ++i) {
+                codes.append(QString("Codigo=%1").arg(i));
+                names.append(QString("Nome='CLIENTE ÇÃO %1'").arg(i));
+                file.db->Execute(
+                    QString("Insert into Produtos (Codigo,Descrição) values (%1,'CLIENTE ÇÃO %1')").arg(i));
+                file.db->Execute(QString("Insert into Vendas (Codigo,Nome) values (%1,'CLIENTE ÇÃO %1')").arg(i));
+            }
+            file.db->Execute("Insert into Produtos (Codigo,Descrição) values (40000,'FICA')");
+            file.db->Execute("Insert into Vendas (Codigo,Nome) values (40000,'FICA')");
+        });
+        file.db->Execute("Delete from Produtos WHERE Descrição in (Select Nome from Vendas Where " +
+                         names.join(" OR ") + ")");
+        QCOMPARE(file.answer("Select Descrição From Produtos"), "FICA");
+        file.db->Execute("DELETE FROM Vendas WHERE " + codes.join(" OR ") + " OR Nome='FICA TAMBÉM'");
+        QCOMPARE(file.answer("Select Nome From Vendas"), "FICA");
+    }
 
 private:
     DataFile m_file;
 };
-
-void tst_reader::initTestCase()
-{
-    RegionalSettings::use(QLocale("pt_BR"));
-    for (const char *row : {"1,'ÁGUA','10','2,50',False,'Bebidas'", "2,'BALA','9,5','0,10',True,'Doces'",
-                            "3,'D''ÁGUA','0','x',False,'doces'", "4,Null,Null,Null,False,'DOÇURA'"})
-        m_file.db->Execute("Insert into Produtos (Codigo,Descrição,Quantidade,Valor,Servico,Categoria) values (" +
-                           QString(row) + ")");
-    m_file.db->Execute("Insert into Vendas (Codigo,Nome) values (2,'BALA')");
-}
-
-void tst_reader::answers_data()
-{
-    QTest::addColumn<QString>("sql");
-    QTest::addColumn<QString>("expected");
-    const auto where = [](const char *condition, const char *codes) {
-        QTest::newRow(condition) << QString("Select Codigo From Produtos Where %1 Order By Codigo").arg(condition)
-                                 << codes;
-    };
-    QTest::newRow("any case") << "SELECT max(CODIGO),MIN(codigo), Count ( * ) ,Count(VALOR) from PRODUTOS"
-                              << "4|1|4|3";
-    QTest::newRow("all fields") << "select * from produtos where codigo=2;"
-                                << "2|BALA|9,5|0,10|True|Doces";
-    QTest::newRow("empty maximum") << "Select Max(Codigo) From Produtos Where Codigo>9"
-                                   << "~";
-    QTest::newRow("maximum of a text read as number") << "Select Max(val(Quantidade)) from Produtos"
-                                                      << "10";
-    QTest::newRow("two orders") << "Select Codigo From Produtos Order By Servico Asc, Val(Quantidade) Desc, Codigo"
-                                << "2 1 3 4";
-    where("descriÇÃO='água'", "");
-    where("[descrição] = 'ÁGUA'", "1");
-    where("Descrição='D''ÁGUA'", "3");
-    where("Codigo=1 OR Codigo=2 AND Servico=False", "1");
-    where("(Codigo=1 OR Codigo=2) AND Servico = True", "2");
-    where("Not Codigo=1 And Not (Codigo=2 Or Codigo=3)", "4");
-    where("Codigo In (1, 3) Or Descrição In (Select nome From Vendas Where Codigo=2)", "1 2 3");
-    where("Codigo Not In (Select Codigo From Vendas)", "1 3 4");
-    where("Descrição Is Not Null And Descrição <> 'BALA'", "1 3");
-    where("Codigo+1*2=4 Or -Codigo<=-4", "2 4");
-    where("Cdbl(Quantidade)>=Cdbl('9,50') And Codigo < 3", "1 2");
-    where("Quantidade - '0,5' = 9 And Codigo=2", "2");
-    where("Servico", "2");
-    where("Servico=255 Or Servico=-1", "2");
-    where("Servico=(Codigo=2)", "1 2 3 4");
-    where("Categoria='DOCES'", "2 3");
-    where("Categoria='doçura' Or categoria='bebidas'", "1 4");
-    where("Codigo=Null", "");
-    where("Descrição < 'B'", "1");
-}
-
-void tst_reader::answers()
-{
-    QFETCH(QString, sql);
-    QFETCH(QString, expected);
-    QCOMPARE(m_file.answer(sql), expected);
-}
-
-void tst_reader::refuses_data()
-{
-    QTest::addColumn<QString>("sql");
-    QTest::addColumn<int>("error");
-    const auto refused = [](const char *sql, int error) { QTest::newRow(sql) << QString(sql) << error; };
-    using namespace ErrorNumber;
-    refused("", BadSql);
-    refused("PRAGMA user_version", BadSql);
-    refused("Select Codigo From Produtos Where Servico = True Categoria='x' AND Codigo=1", BadSql);
-    refused("Select * From Produtos Where Descrição='D'AGUA'", BadSql);
-    refused("Select * From Produtos Where Codigo=", BadSql);
-    refused("Select * From Produtos Where Codigo=1 OR ", BadSql);
-    refused("Select * From Produtos Where Codigo=7,5", BadSql);
-    refused("Select * From Produtos Where Codigo=1; Delete From Produtos", BadSql);
-    refused("Select * From Produtos Where (Codigo=1", BadSql);
-    refused("Select * From Produtos Where Codigo=\"1\"", BadSql);
-    refused("Select * From Produtos Where Codigo In (Select * From Vendas)", BadSql);
-    refused("Select Codigo, Max(Codigo) From Produtos", BadSql);
-    refused("Select Codigo From Produtos Where Codigo=Max(Codigo)", BadSql);
-    refused("Select load_extension('x') From Produtos", BadSql);
-    refused("Select * From Nenhuma", UnknownTable);
-    refused("Select * From sqlite_master", UnknownTable);
-    refused("Select Nenhum From Produtos", UnknownField);
-    refused("Select * From Produtos Where Codigo In (Select Nome From Vendas Where Valor='x')", UnknownField);
-    refused("Select * From Produtos Where Descrição=1", TypeMismatch);
-    refused("Select * From Produtos Where Codigo='1'", TypeMismatch);
-    refused("Select * From Produtos Where Cdbl(Valor)=1 And Codigo>0", TypeMismatch);
-    refused("Select * From Produtos Where Codigo=Cdbl('')", TypeMismatch);
-    refused("Select * From Produtos Order By Cdbl(Quantidade)", TypeMismatch);
-    refused("Delete From Produtos Where Codigo=9", BadSql);
-}
-
-void tst_reader::refuses()
-{
-    QFETCH(QString, sql);
-    QFETCH(int, error);
-    QCOMPARE(errorOf([&] { m_file.db->OpenRecordset(sql); }), error);
-}
-
-void tst_reader::refusesEndlessNesting_data()
-{
-    QTest::addColumn<QString>("condition");
-    QTest::newRow("parentheses") << QString(100'000, '(') + "Codigo=1" + QString(100'000, ')');
-    QTest::newRow("sums") << "Codigo=1" + QString("+1").repeated(100'000);
-    QTest::newRow("queries") << QString("Codigo In (Select Codigo From Produtos Where ").repeated(10'000) + "Codigo=1";
-}
-
-void tst_reader::refusesEndlessNesting()
-{
-    QFETCH(QString, condition);
-    QCOMPARE(errorOf([&] { m_file.db->OpenRecordset("Select * From Produtos Where " + condition); }),
-             ErrorNumber::BadSql);
-    QCOMPARE(m_file.answer("Select Codigo From Produtos Where " + QString("Not ").repeated(100'000) + "Codigo=1"), "1");
-}
-
-void tst_reader::deletesARangeOfTensOfThousands()
-{
-    constexpr int rows = 32'766;
-    DataFile file;
-    QStringList codes;
-    QStringList names;
-    file.db->inTransaction([&] {
-        for (int i = 1; i <= rows; ++i) {
-            codes.append(QString("Codigo=%1").arg(i));
-            names.append(QString("Nome='CLIENTE ÇÃO %1'").arg(i));
-            file.db->Execute(QString("Insert into Produtos (Codigo,Descrição) values (%1,'CLIENTE ÇÃO %1')").arg(i));
-            file.db->Execute(QString("Insert into Vendas (Codigo,Nome) values (%1,'CLIENTE ÇÃO %1')").arg(i));
-        }
-        file.db->Execute("Insert into Produtos (Codigo,Descrição) values (40000,'FICA')");
-        file.db->Execute("Insert into Vendas (Codigo,Nome) values (40000,'FICA')");
-    });
-    file.db->Execute("Delete from Produtos WHERE Descrição in (Select Nome from Vendas Where " + names.join(" OR ") +
-                     ")");
-    QCOMPARE(file.answer("Select Descrição From Produtos"), "FICA");
-    file.db->Execute("DELETE FROM Vendas WHERE " + codes.join(" OR ") + " OR Nome='FICA TAMBÉM'");
-    QCOMPARE(file.answer("Select Nome From Vendas"), "FICA");
-}
 
 QTEST_GUILESS_MAIN(tst_reader)
 #include "tst_reader.moc"

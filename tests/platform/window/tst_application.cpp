@@ -1,15 +1,12 @@
 #include "platform/base/Err.h"
 #include "platform/window/Application.h"
 #include "platform/window/Forms.h"
-#include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 
-#include <QPalette>
 #include <QProcess>
 #include <QTest>
 #include <QTimer>
 
-#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -44,20 +41,6 @@ int failingProgram(int &argc, char **argv)
     return application.exec();
 }
 
-/// Contrast of two colours, 1 to 21, as the web's accessibility guidelines reckon it.
-double contrast(const QColor &one, const QColor &other)
-{
-    const auto luminance = [](const QColor &colour) {
-        const auto linear = [](double part) {
-            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-    };
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(other) + 0.05;
-    return std::max(a, b) / std::min(a, b);
-}
-
 } // namespace
 
 class TestApplication : public QObject
@@ -74,28 +57,6 @@ private slots:
         QCOMPARE(program.exitCode(), 1);
         QCOMPARE(QString::fromUtf8(program.readAllStandardOutput()),
                  "Morvelane – Módulo Auxiliar|16|Erro em tempo de execução '3075':\n\nSyntax error\n");
-    }
-
-    void coloursCanBeRead()
-    {
-        using Role = QPalette::ColorRole;
-        constexpr std::pair<Role, Role> inks[] = {{Role::WindowText, Role::Window},
-                                                  {Role::Text, Role::Base},
-                                                  {Role::Text, Role::AlternateBase},
-                                                  {Role::ButtonText, Role::Button},
-                                                  {Role::HighlightedText, Role::Highlight},
-                                                  {Role::PlaceholderText, Role::Light},
-                                                  {Role::PlaceholderText, Role::Window},
-                                                  {Role::PlaceholderText, Role::Base},
-                                                  {Role::BrightText, Role::Light},
-                                                  {Role::BrightText, Role::Window},
-                                                  {Role::Link, Role::Light}};
-        for (const bool dark : {false, true}) {
-            const QPalette palette = lookPalette(dark);
-            for (const auto &[ink, ground] : inks)
-                QVERIFY2(contrast(palette.color(ink), palette.color(ground)) >= 4.5,
-                         qPrintable(QString("%1 on %2, dark %3").arg(ink).arg(ground).arg(dark)));
-        }
     }
 };
 

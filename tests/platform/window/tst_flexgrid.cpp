@@ -1,6 +1,5 @@
 #include "platform/window/FlexGrid.h"
 
-#include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -22,40 +21,6 @@ private slots:
         m_grid->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_grid.get()));
         m_grid->setFocus();
-    }
-
-    void formatStringMakesColumns()
-    {
-        QCOMPARE(m_grid->Cols(), 4);
-        QCOMPARE(m_grid->TextMatrix(0, 1), "Nome               ");
-        const QFontMetrics metrics(m_grid->horizontalHeader()->font());
-        QVERIFY(m_grid->columnWidth(1) > metrics.horizontalAdvance("Nome               "));
-        const auto alignment = [this](int col) {
-            return m_grid->model()->index(0, col).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-        };
-        QVERIFY(alignment(0) & Qt::AlignLeft);
-        QVERIFY(alignment(2) & Qt::AlignRight);
-        QVERIFY(alignment(3) & Qt::AlignHCenter);
-    }
-
-    void programMovesTheSelection()
-    {
-        QSignalSpy changes(m_grid.get(), &FlexGrid::SelChange);
-        m_grid->setRows(1);
-        m_grid->setRows(4);
-        QCOMPARE(m_grid->Row(), 1);
-        QCOMPARE(changes.size(), 0);
-        m_grid->setRow(2);
-        m_grid->setRow(2);
-        m_grid->setRowSel(3);
-        QCOMPARE(changes.size(), 2);
-        QCOMPARE(selected(), "2-3");
-
-        m_grid->setTextMatrix(2, 0, "two");
-        m_grid->setRow(3);
-        m_grid->RemoveItem(1);
-        QCOMPARE(m_grid->TextMatrix(1, 0), "two");
-        QCOMPARE(selected(), "2-2");
     }
 
     void mouseSelects()

@@ -64,29 +64,6 @@ private slots:
         told.clear();
     }
 
-    void loadsOnceAndUnloadsOnce()
-    {
-        Counter &counter = Forms::use<Counter>();
-        QCOMPARE(takeTold(), QStringList("counter load"));
-        QCOMPARE(&Forms::use<Counter>(), &counter);
-
-        counter.Show();
-        QVERIFY(QTest::qWaitForWindowActive(&counter));
-        QCOMPARE(takeTold(), QStringList("counter activate"));
-
-        counter.close();
-        counter.Unload();
-        counter.Show();
-        QVERIFY(!counter.isVisible());
-        QCOMPARE(takeTold(), QStringList("counter unload"));
-        QVERIFY(Forms::loaded().isEmpty());
-
-        const Counter *unloaded = &counter;
-        QVERIFY(&Forms::use<Counter>() != unloaded);
-        QCoreApplication::processEvents();
-        QCOMPARE(takeTold(), QStringList({"counter load", "counter freed"}));
-    }
-
     void activatesOnlyWhenTheProgramsWindowChanges()
     {
         Counter &counter = Forms::use<Counter>();
