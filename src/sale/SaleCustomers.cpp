@@ -162,7 +162,8 @@ void SaleCustomers::setGridEnabled(bool enabled)
 
 bool SaleCustomers::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == ui.txtnome && event->type() == QEvent::KeyPress) {
+    // The type first: the last events come when the window's controls are gone already.
+    if (event->type() == QEvent::KeyPress && watched == ui.txtnome) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         const int row = ui.tab_clientes->Row() + (key == Qt::Key_Down ? 1 : -1);
         if (key == Qt::Key_Down || key == Qt::Key_Up) {
