@@ -50,6 +50,9 @@ void FlexGrid::setRows(int rows)
 {
     if (rows < 1)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
+    // The first rows of all make the first one current; later ones leave a Row 0 alone.
+    if (Rows() == 1 && rows > 1)
+        m_selection.row = m_selection.rowSel = 1;
     m_model->setRows(rows);
     adaptSelection();
 }
@@ -242,9 +245,8 @@ void FlexGrid::adaptSelection()
 {
     const int lastRow = Rows() - 1;
     const int lastCol = Cols() - 1;
-    const int firstRow = std::min(lastRow, 1);
-    m_selection.row = std::clamp(m_selection.row, firstRow, lastRow);
-    m_selection.rowSel = std::clamp(m_selection.rowSel, firstRow, lastRow);
+    m_selection.row = std::min(m_selection.row, lastRow);
+    m_selection.rowSel = std::min(m_selection.rowSel, lastRow);
     m_selection.col = std::min(m_selection.col, lastCol);
     m_selection.colSel = std::min(m_selection.colSel, lastCol);
     showSelection();
