@@ -127,9 +127,10 @@ QString SaleDiscount::chosenMotive() const
 bool SaleDiscount::takeMotive(QString &motivo)
 {
     motivo = Placeholder::NoMotive;
+    if (!ui.chkdesconto->isChecked())
+        return true;
     if (Valor_Desconto == 0) {
-        if (ui.chkdesconto->isChecked())
-            ui.txtvalor_desconto->setText("0");
+        ui.txtvalor_desconto->setText("0");
         return true;
     }
     motivo = chosenMotive();

@@ -4,8 +4,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
-
 class ComboBox;
 class Label;
 class QCheckBox;
@@ -58,21 +56,15 @@ public:
     /// The order in which rules go before each other, with which each condition ends.
     static QString ruleOrder();
 
-    /// The motive of a rule: empty without such a rule, eleven hyphens without any rule in the combo.
-    void Validar_Motivo(quint8 codigo, QString &motivo) const;
-
     /// The motive of the rule in the combo.
     QString chosenMotive() const;
 
-    /// The motive that is stored with the sale: eleven hyphens without a discount. False for a discount whose motive
-    /// has no text.
+    /// The motive that is stored with the sale: eleven hyphens without a ticked discount, though an amount may be left
+    /// from before the tick went. False for a discount whose motive has no text.
     bool takeMotive(QString &motivo);
 
     /// Whether the rule in the combo refuses the total.
     bool ruleRefuses() const;
-
-    /// Number of the rule in the combo, as a byte. Raises for a number that is none.
-    quint8 motiveCode() const;
 
     /// What a pick in the combo does, called by name when the program sets it or the total has moved.
     void txtmotivo_Click();
@@ -82,6 +74,10 @@ public:
 
 private:
     bool pickRule(const QString &sql);
+    /// Number of the rule in the combo, as a byte. Raises for a number that is none.
+    quint8 motiveCode() const;
+    /// The motive of a rule: empty without such a rule, eleven hyphens without any rule in the combo.
+    void Validar_Motivo(quint8 codigo, QString &motivo) const;
     void chkdesconto_Click();
     void imgdesconto_Click() const;
 

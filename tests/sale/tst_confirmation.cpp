@@ -87,6 +87,18 @@ private slots:
         QCOMPARE(shares({"P11", "P12", "P13", "P14"}, "0,06", "3,94"), (QStringList{"0,02", "0,02", "0,02", "0,00"}));
     }
 
+    void storesNoMotiveWithoutTheTick()
+    {
+        SaleCounter counter;
+        counter.open();
+        counter.put("BALA");
+        counter.type("txtvalor_desconto", "1");
+        // No rule applies to the new total: the box is unticked, and the amount is left for this sale.
+        counter.put("BALA");
+        counter.sell("19", "19,00, paga por\nANA LIMA");
+        QCOMPARE(counter.sold("Desconto,Motivo_Desconto"), QStringList{"1,00|-----------"});
+    }
+
     void storesLines()
     {
         SaleCounter counter;
