@@ -2,6 +2,7 @@
 
 #include "configuration/Globais.h"
 #include "platform/text/Numbers.h"
+#include "platform/window/TextBox.h"
 
 QString amountText(double value)
 {
@@ -37,6 +38,12 @@ QString receiptAmount(double value)
 QString blanksAsZeros(QString text)
 {
     return text.replace(' ', '0');
+}
+
+void replaceBlanks(TextBox &box)
+{
+    if (box.text().contains(' '))
+        box.setText(blanksAsZeros(box.text()));
 }
 
 QString noChangeText()

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class TextBox;
+
 /// An amount as it is shown and stored: "####0.00".
 QString amountText(double value);
 
@@ -20,6 +22,9 @@ QString receiptAmount(double value);
 
 /// A text with each blank replaced by "0".
 QString blanksAsZeros(QString text);
+
+/// Does the same to a box. Its text is left alone when it holds no blank, because setting one fires the box's Change.
+void replaceBlanks(TextBox &box);
 
 /// What the change shows when there is none: the symbol and three zeros, without a decimal separator. That stays.
 QString noChangeText();

@@ -59,7 +59,7 @@ void CodeCreation::Cadastrar_Codigo(quint8 &ok)
     pad();
     if (ui.txturl->text().isEmpty())
         return say("MsgBox2", ui.txturl);
-    ui.txtvalor_disponível->setText(blanksAsZeros(ui.txtvalor_disponível->text()));
+    replaceBlanks(*ui.txtvalor_disponível);
     const QString code = ui.txtadi_cartao->text();
     if (hasRow("Select Codigo_Acesso From Codigo_Acesso Where Codigo_Acesso='" + code + "'"))
         return say("MsgBox3");

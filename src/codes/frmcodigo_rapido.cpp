@@ -87,7 +87,7 @@ void frmcodigo_rapido::Form_Load()
         opttempo_indeterminado_Click();
     if (const QString value = setting("Codigo Rapido", "Valor Disp"); !value.isEmpty())
         ui->txtvalor_disponível->setText(value);
-    ui->txtvalor_disponível->setText(blanksAsZeros(ui->txtvalor_disponível->text()));
+    replaceBlanks(*ui->txtvalor_disponível);
     tickAsStored(ui->chkrecibo, "Recibo Codigo", "Imprimir");
 }
 

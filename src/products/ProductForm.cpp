@@ -104,7 +104,7 @@ void ProductForm::listCategories(const QString &standard)
 
 void ProductForm::fillPrice()
 {
-    ui.txtvalor_unitario->setText(blanksAsZeros(ui.txtvalor_unitario->text()));
+    replaceBlanks(*ui.txtvalor_unitario);
 }
 
 bool ProductForm::testar_valores(const Refusals &refusals)

@@ -81,8 +81,7 @@ bool SaleConfirmation::prepare()
         return refused("MsgBox7", nullptr);
     if (ui.txtvalor_pago->text().isEmpty())
         ui.txtvalor_pago->setText("0");
-    if (ui.txtvalor_desconto->text().contains(' '))
-        ui.txtvalor_desconto->setText(blanksAsZeros(ui.txtvalor_desconto->text()));
+    replaceBlanks(*ui.txtvalor_desconto);
     if (ui.tab_consumo->Rows() < 2)
         return refused("MsgBox8", ui.cmbprodutos);
     if (m_state.Debito_Venda == 0 && !paysEnough())

@@ -85,8 +85,7 @@ void frmvenda::Form_Load()
     Listar_Clientes();
     Listar_Produtos();
     for (TextBox *box : {ui->txtvalor_pago, ui->txtvalor_desconto})
-        if (box->text().contains(' '))
-            box->setText(blanksAsZeros(box->text()));
+        replaceBlanks(*box);
     ui->tab_consumo->setCols(4);
     ui->tab_consumo->setRows(1);
     ui->tab_consumo->setFormatString("<    |<" + saleTexts.text("tab_consumo1") + "|<" +

@@ -125,6 +125,17 @@ private slots:
         }
     }
 
+    void storesTheDiscountThatWasConfirmed()
+    {
+        CodeDesk desk;
+        desk.addRule(1, "Absoluto='5', LiberarAuto=False");
+        desk.open();
+        desk.type("txtvalor_disponível", "20");
+        desk.press("chkdesconto");
+        desk.sell("20,00", "15,00");
+        QCOMPARE(desk.sales().value(0).section('|', 9, 10), QString("5,00|REGRA 1"));
+    }
+
     void leavesWhatFailsUnseen()
     {
         CodeDesk desk;
