@@ -62,22 +62,22 @@ bool CategoryEditing::isRefused(const QString &emptyKey)
     return true;
 }
 
-bool CategoryEditing::isTaken(const QString &others)
+bool CategoryEditing::isTaken(const QString &condition)
 {
-    if (!hasRow("Select * from Categoria Where nome='" + typedName() + "'" + others))
+    if (!hasRow("Select * from Categoria Where " + condition))
         return false;
     categoryTexts.noticeText(categoryTexts.text("MsgBox3") + typedName() + categoryTexts.text("MsgBox3_2"));
-    ui.txtnome->setFocus();
     return true;
 }
 
 void CategoryEditing::store()
 {
-    double codigo = 1;
-    readFirstRow("Select Max(Codigo) From Categoria", [&](const Recordset &rs) { codigo = rs.Fields(0).number() + 1; });
-    if (isTaken())
-        return;
+    const double codigo = keyBehind("Select Max(Codigo) From Categoria");
     const QString name = typedName();
+    if (isTaken("nome='" + name + "'")) {
+        ui.txtnome->setFocus();
+        return;
+    }
     executeStatement("Insert into Categoria (Codigo,nome) values (" + Cstr(codigo) + ",'" + name + "')");
     m_list.addCategory(codigo, name, ui.chkpadrao->isChecked());
     if (ui.chkpadrao->isChecked()) {
@@ -105,9 +105,9 @@ void CategoryEditing::begin()
 
 bool CategoryEditing::save()
 {
-    if (isRefused("MsgBox6") || isTaken(" AND Codigo <> " + Cstr(m_state.CodigoCategoria)))
-        return false;
     const QString name = typedName();
+    if (isRefused("MsgBox6") || isTaken("Nome='" + name + "' AND Codigo <> " + Cstr(m_state.CodigoCategoria)))
+        return false;
     if (m_state.NomeAntigo == categoryTexts.loaded("String7") && name != m_state.NomeAntigo) {
         categoryTexts.notice("MsgBox7");
         return false;

@@ -25,7 +25,7 @@ private:
     /// Whether the name can't stand in a statement or is missing, which is told.
     bool isRefused(const QString &emptyKey);
     /// Whether another category has the name, which is told.
-    bool isTaken(const QString &others = {});
+    bool isTaken(const QString &condition);
     void store();
     void begin();
     /// False when a refusal leaves the edit open.

@@ -37,6 +37,7 @@ void CategoryList::load()
         addCategory(rs->Fields("Codigo").number(), name, name.toUpper() == m_state.CategoriaPadrao);
     }
     Fechar_Recordset(rs);
+    grid.setRow(0);
     showTotal();
 }
 

@@ -41,7 +41,7 @@ bool removerCategorias(const FlexGrid &tab_categorias, const CategoryState &stat
             return false;
         }
         codes += "Codigo=" + tab_categorias.TextMatrix(row, CategoryColumn::Codigo);
-        names += "categoria='" + name + "'";
+        names += (first == last ? "Categoria = '" : "categoria='") + name + "'";
     }
     return OnErrorGoToEnd([&] { removeRows(codes, names, untouchable); });
 }
