@@ -30,6 +30,9 @@ void ProductEditing::cmdeditar_Click()
 
 void ProductEditing::begin()
 {
+    // Before the box shows the product itself, and that stays: an edited service is stored as a product, unless the box
+    // was ticked by hand before.
+    m_state.Servico_Produto = ui.chkserviço->isChecked();
     if (m_state.LinhaSelecionada < 1 || ui.tab_produtos->RowSel() < 1) {
         productTexts.notice("MsgBox13");
         return;
@@ -48,7 +51,8 @@ bool ProductEditing::save()
         return false;
     if (isEditedProductTaken(ui))
         return false;
-    const ProductRecord product = m_form.record();
+    ProductRecord product = m_form.record();
+    product.Servico = m_state.Servico_Produto;
     const auto execute = [](const QString &sql) { OnErrorResumeNext([&] { executeStatement(sql); }); };
     execute(updateStatement(product, m_state.CodigoEditado));
     updateSoldProducts("Categoria = '" + product.Categoria + "' Where Descrição = '" + product.Descrição + "'",

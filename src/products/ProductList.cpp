@@ -13,6 +13,9 @@
 #include "products/ProductTexts.h"
 #include "ui_frmcadastro_produtos.h"
 
+#include <array>
+#include <utility>
+
 namespace {
 constexpr QSize searchPictureSize(20, 20);
 const QString none = "-";
@@ -60,18 +63,9 @@ void ProductList::load()
     m_state.Total_Produtos = 0;
 
     RecordsetHandle rs;
-    Abrir_Recordset(rs, BancoPrincipal, "Select Count(*) from Produtos");
-    OnErrorResumeNext([&] {
-        if (rs)
-            grid.setRows(static_cast<int>(rs->Fields(0).number()) + 1);
-    });
-    Abrir_Recordset(rs, BancoPrincipal,
-                    "Select Codigo,Descrição,Categoria,Cod,Servico,Quantidade,Estoque_Min,Valor_Unitario,Fornecedor,"
-                    "Cardapio,Cod_Barra from Produtos Order By Descrição");
-    OnErrorResumeNext([&] {
-        if (rs)
-            fill(*rs);
-    });
+    Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Order By Descrição");
+    if (rs)
+        fill(*rs);
     Fechar_Recordset(rs);
     grid.setRows(m_state.Total_Produtos + 1);
     grid.setRow(0);
@@ -85,21 +79,37 @@ void ProductList::fill(Recordset &rs)
     // Asked once, not for every row.
     const QString inMenu = menuText(true);
     const QString notInMenu = menuText(false);
-    const auto isTrue = [&rs](int column) { return !rs.Fields(column).isNull() && rs.Fields(column).boolean(); };
+    const std::array<std::pair<QString, int>, 7> columns{{{"Codigo", ProductColumn::Codigo},
+                                                          {"Descrição", ProductColumn::Description},
+                                                          {"Categoria", ProductColumn::Category},
+                                                          {"Cod", ProductColumn::Code},
+                                                          {"Valor_Unitario", ProductColumn::Price},
+                                                          {"Fornecedor", ProductColumn::Supplier},
+                                                          {"Cod_Barra", ProductColumn::Barcode}}};
+    const std::array<std::pair<QString, int>, 2> stocks{
+        {{"Quantidade", ProductColumn::Stock}, {"Estoque_Min", ProductColumn::MinimumStock}}};
+    const QString servico = "Servico";
+    const QString cardapio = "Cardapio";
+    const auto isTrue = [&rs](const QString &field) {
+        return !rs.Fields(field).isNull() && rs.Fields(field).boolean();
+    };
+
     for (; !rs.Eof(); rs.MoveNext()) {
-        const int row = m_state.Total_Produtos + 1;
-        // A product added meanwhile at another terminal isn't counted yet.
+        const int row = ++m_state.Total_Produtos;
+        // In leaps, because each growth is told to the view.
         if (row >= grid.Rows())
-            grid.setRows(row + 1);
-        for (int column = 0; column < ProductColumn::Count; ++column)
-            grid.setTextMatrix(row, column, rs.Fields(column).text());
-        const bool isService = isTrue(ProductColumn::Service);
-        grid.setTextMatrix(row, ProductColumn::Service, isService ? service : none);
-        if (isService)
-            for (const int column : {ProductColumn::Stock, ProductColumn::MinimumStock})
-                grid.setTextMatrix(row, column, none);
-        grid.setTextMatrix(row, ProductColumn::Menu, isTrue(ProductColumn::Menu) ? inMenu : notInMenu);
-        m_state.Total_Produtos = row;
+            grid.setRows(2 * row);
+        const auto show = [&](int column, const auto &text) {
+            OnErrorResumeNext([&] { grid.setTextMatrix(row, column, text()); });
+        };
+        for (const auto &[field, column] : columns)
+            show(column, [&] { return rs.Fields(field).text(); });
+        bool isService = false;
+        OnErrorResumeNext([&] { isService = isTrue(servico); });
+        show(ProductColumn::Service, [&] { return isService ? service : none; });
+        for (const auto &[field, column] : stocks)
+            show(column, [&] { return isService ? none : rs.Fields(field).text(); });
+        show(ProductColumn::Menu, [&] { return isTrue(cardapio) ? inMenu : notInMenu; });
     }
 }
 

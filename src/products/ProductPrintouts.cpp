@@ -60,10 +60,10 @@ void imprimirProdutos(Form &form, const FlexGrid &tab_produtos, int Total_Produt
 {
     if (!productTexts.confirms("MsgBox18", "MsgBox18_2", vbQuestion))
         return;
+    // The hourglass outlives the notice of an empty list, and that stays.
+    form.setMousePointer(vbHourglass);
     if (Total_Produtos == 0)
         return productTexts.notice("MsgBox19", "MsgBox19_2");
-
-    form.setMousePointer(vbHourglass);
     print(tab_produtos, total);
     form.setMousePointer(vbDefault);
     // A printer that refused is no reason to stay silent. It stays.

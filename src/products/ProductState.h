@@ -12,4 +12,6 @@ struct ProductState
     int LinhaEditada = 0;
     /// Key of the product under edit.
     double CodigoEditado = 0;
+    /// Whether the box said service when the edit began.
+    bool Servico_Produto = false;
 };

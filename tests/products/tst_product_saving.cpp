@@ -124,6 +124,22 @@ private slots:
         QVERIFY(desk.at("txtestoque_min").isEnabled() && desk.at("cmdremover").isEnabled());
     }
 
+    void storesTheServiceTickFromBeforeTheEdit()
+    {
+        ProductDesk desk;
+        desk.open();
+        const auto edited = [&](int row) {
+            desk.edit(row);
+            desk.expectSave();
+            desk.press("cmdeditar");
+            return desk.row(row).section('|', 4, 6);
+        };
+        QCOMPARE(edited(3), QString("-|0|0"));
+        click(desk.at("chkserviço"));
+        QCOMPARE(edited(2), QString("X|-|-"));
+        QCOMPARE(desk.stored("Servico,Quantidade").mid(2), (QStringList{"True|10", "False|0"}));
+    }
+
     void keepsStockAndSupplierOfTheReservedProduct()
     {
         ProductDesk desk;
