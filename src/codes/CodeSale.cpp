@@ -48,15 +48,13 @@ void CodeSale::cmdfinalizar_Click()
 
 bool CodeSale::prepare()
 {
-    m_state.Motivo_Venda.clear();
     m_state.Avulsa_Venda = 0;
     m_state.Recarga_Venda = 0;
     m_creation.pad();
     TextBox *value = ui.txtvalor_disponível;
     if (value->isEnabled() && !IsNumeric(value->text()))
         value->setText("0");
-    m_state.URL_Codigo = ui.txturl->text();
-    if (m_state.URL_Codigo.isEmpty()) {
+    if (ui.txturl->text().isEmpty()) {
         refuse("MsgBox2", ui.txturl);
         return false;
     }
@@ -130,10 +128,8 @@ bool CodeSale::confirmsSale() const
 
 void CodeSale::storeSale()
 {
-    Abrir_Banco_Principal();
     const QString code = ui.txtadi_cartao->text();
     const QDateTime moment = Machine::current().now();
-    const auto quoted = [](const QString &text) { return "'" + text + "'"; };
     // Each failure goes unseen, and what follows is still tried.
     OnErrorResumeNext(
         [&] {

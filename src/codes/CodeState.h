@@ -9,7 +9,6 @@ struct CodeState
     QString Nick_Cliente;
     /// "E" for a code that is paid before, "I" for one that is paid after.
     QString Tipo_Inicial;
-    QString URL_Codigo;
     QString Motivo_Venda;
     double Proximo_Codigo = 0;
     /// Always 0 here; the administration program knows reloads and walk-in sales of codes.

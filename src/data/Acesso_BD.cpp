@@ -96,6 +96,11 @@ void executeStatement(const QString &sql)
     BancoPrincipal->Execute(sql);
 }
 
+QString quoted(const QString &text)
+{
+    return "'" + text + "'";
+}
+
 RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int, int)
 {
     const bool wasOpen = prepareQuery(target, handle);

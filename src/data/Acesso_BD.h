@@ -26,6 +26,9 @@ void Abrir_Banco_Principal();
 /// Runs a writing statement on the main handle. Raises when it fails, and when no file is open.
 void executeStatement(const QString &sql);
 
+/// A text as a value of a statement. An apostrophe within it breaks the statement.
+QString quoted(const QString &text);
+
 /// Closes the target first, opens an empty handle, and runs a query to be read forward; empty on failure.
 RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int = 2,
                                 int = 512);

@@ -29,7 +29,6 @@ public:
     int BytesPerScanLine() const;
     int Width() const { return m_header.biWidth; }
     int Height() const { return m_header.biHeight; }
-    const BITMAPINFOHEADER &Header() const { return m_header; }
 
     /// Copies a part of an image to the top left corner; a negative width or height means the section's own.
     void LoadPictureBlt(const QImage &source, int left = 0, int top = 0, int width = -1, int height = -1);

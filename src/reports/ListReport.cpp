@@ -16,8 +16,6 @@
 
 namespace {
 constexpr int fullPage = 59;
-constexpr int a4Width = 11906; ///< twips
-constexpr int a4Height = 16838;
 
 QString momentText()
 {

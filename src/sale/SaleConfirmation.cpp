@@ -24,11 +24,6 @@
 
 namespace {
 const QString attention = "Atenção";
-
-QString quoted(const QString &text)
-{
-    return "'" + text + "'";
-}
 } // namespace
 
 SaleConfirmation::SaleConfirmation(Form &form, Ui::frmvenda &window, SaleState &state, SaleDiscount &discount,
@@ -143,7 +138,6 @@ bool SaleConfirmation::categoryRefuses() const
 void SaleConfirmation::store()
 {
     m_lowStock.clear();
-    Abrir_Banco_Principal();
     double sum = 0;
     for (int row = 1; row < ui.tab_consumo->Rows(); ++row) {
         m_state.Proximo_Codigo = keyBehind("Select Max(Codigo) From Venda_Produtos");
