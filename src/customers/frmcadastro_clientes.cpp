@@ -7,12 +7,14 @@
 #include "customers/CustomerPrintouts.h"
 #include "customers/CustomerRegistration.h"
 #include "customers/CustomerRemoval.h"
+#include "customers/CustomerTexts.h"
 #include "data/Acesso_BD.h"
 #include "ui_frmcadastro_clientes.h"
 
 frmcadastro_clientes::frmcadastro_clientes() : ui(std::make_unique<Ui::frmcadastro_clientes>())
 {
     ui->setupUi(this);
+    ui->cmdeditar->setText(customerTexts.loaded("String10"));
     m_form = new CustomerForm(*ui, this);
     m_photo = new CustomerPhoto(*this, *ui, m_state);
     m_list = new CustomerList(*ui, m_state, this);

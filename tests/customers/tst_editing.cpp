@@ -69,6 +69,9 @@ private slots:
     {
         CustomerDesk desk;
         desk.addCustomer(6, "DAVI", "Documento='9', Nick='DAVI'");
+        // The state of an edit is told by the button's text, in any language.
+        desk.cafe.setIni("Config_Regional", "Idioma", "Ingles.lng");
+        desk.cafe.start();
         desk.open();
         desk.edit(2);
         desk.type("txtdata_nascimento", "");
