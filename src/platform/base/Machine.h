@@ -16,7 +16,7 @@ struct Machine
 {
     Machine();
 
-    /// Folder in which the program's executable lies.
+    /// Folder of the program's own file. The application names it at its start; before that, the executable's.
     std::function<QString()> programFolder;
     std::function<QDateTime()> now;
     std::function<void(int milliseconds)> sleep;
