@@ -3,8 +3,10 @@
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
 #include "platform/files/Paths.h"
+#include "platform/files/PointerFile.h"
 #include "platform/jet/DBEngine.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace {
@@ -90,6 +92,21 @@ void allowModule(const QString &folder, bool allowed)
         throw RunTimeError(ErrorNumber::FileNotFound, folder + ": there is no config.ini in this folder");
     if (!WritePrivateProfileString("Modulo Externo", "Ativo", allowed ? "1" : "0", file))
         throw RunTimeError(ErrorNumber::PathAccess, file + ": cannot be written");
+}
+
+QString pointAt(const QString &folder, PointFor whom)
+{
+    requireFolder(folder);
+    const QString dataFile = dataFileOf(QFileInfo(folder).absoluteFilePath());
+    if (!QFileInfo::exists(dataFile))
+        throw RunTimeError(ErrorNumber::FileNotFound, folder + ": no café is in this folder");
+    const PointerPlaces places = PointerPlaces::onThisComputer();
+    const QString place = whom == PointFor::Everyone ? places.ofEveryone : places.folder();
+    QDir().mkpath(place);
+    QString file = resolveIgnoringCase(place + '/' + pointerFileName);
+    if (!WritePrivateProfileString("Configuracoes", "BD", dataFile, file))
+        throw RunTimeError(ErrorNumber::PathAccess, file + ": cannot be written");
+    return file;
 }
 
 void backupCafe(const QString &folder, const QString &file)

@@ -43,6 +43,14 @@ CashPeriod closeTill(const QString &folder);
 /// Lets terminals run on this café, or blocks them.
 void allowModule(const QString &folder, bool allowed);
 
+enum class PointFor
+{
+    User,    ///< who runs the tool
+    Everyone ///< who has an account on this computer
+};
+/// Writes the file that leads the terminal to this café, and answers its path.
+QString pointAt(const QString &folder, PointFor whom);
+
 /// Faults of the data file, the configuration files and the language files, one line each; empty when all is sound.
 QStringList checkCafe(const QString &folder);
 

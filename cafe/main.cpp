@@ -101,6 +101,13 @@ int runModule(const QCommandLineParser &, const QStringList &arguments)
     return Ok;
 }
 
+int runPoint(const QCommandLineParser &parser, const QStringList &arguments)
+{
+    const QString file = pointAt(arguments[0], parser.isSet("everyone") ? PointFor::Everyone : PointFor::User);
+    out() << "The terminal works on " << arguments[0] << "; " << file << " says so.\n";
+    return Ok;
+}
+
 QString escaped(QString text)
 {
     return text.replace('\\', "\\\\").replace('\t', "\\t").replace('\n', "\\n").replace('\r', "\\r");
@@ -156,6 +163,12 @@ const QList<Command> &commands()
          runCreate},
         {"till", "open|close|status FOLDER", "Opens, closes or shows the newest cash period.", 2, {}, runTill},
         {"module", "allow|block FOLDER", "Lets terminals run on this café, or blocks them.", 2, {}, runModule},
+        {"point",
+         "FOLDER",
+         "Leads the terminal on this computer to the café.",
+         1,
+         {{"everyone", "For all users of the computer; its owner alone may do so."}},
+         runPoint},
         {"query",
          "FOLDER \"SELECT ...\"",
          "Prints the answer as lines of tab-separated values under a line of headings; \\t, \\n, \\r and \\\\ stand "

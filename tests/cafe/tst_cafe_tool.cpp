@@ -98,6 +98,7 @@ private slots:
         row("writing query", 2, "read", {"query", "@cafe", "Delete From Clientes"});
         row("two statements", 1, "", {"query", "@cafe", "Select * From Clientes; Delete From Clientes"});
         row("check of nothing", 1, "no such folder", {"check", "@new"});
+        row("pointer to nothing", 1, "no café", {"point", "@"});
         row("backup over the live file", 1, "exists", {"backup", "@cafe", "@cafe/Morvelane.mdb"});
     }
 
@@ -122,6 +123,23 @@ private slots:
         QCOMPARE(answer.out, QString());
         QCOMPARE(entries(place.path()), QStringList("cafe"));
         QCOMPARE(read(at("cafe/Morvelane.mdb")), dataFile);
+    }
+
+    void pointsTheTerminalAtTheCafe()
+    {
+        QCOMPARE(tool({"create", at("cafe")}).code, 0);
+        // A copy of the tool, as one beside its own pointer would change that one.
+        QVERIFY(QFile::copy(CAFE_TOOL, at("tool")));
+        qputenv("XDG_DATA_HOME", at("home").toUtf8());
+        qputenv("XDG_CONFIG_DIRS", (at("desktop") + ':' + at("etc")).toUtf8());
+        const auto pointer = [&](const QString &place) {
+            return GetPrivateProfileString("Configuracoes", "BD", {}, 500, at(place + "/ConfigIni.txt"));
+        };
+        for (const QStringList &options : {QStringList{}, QStringList{"--everyone"}})
+            QCOMPARE(QProcess::execute(at("tool"), QStringList{"point", at("cafe")} + options), 0);
+        for (const char *place : {"home/morvelane", "etc/morvelane"})
+            QCOMPARE(pointer(place), at("cafe/Morvelane.mdb"));
+        QVERIFY(!QFileInfo::exists(at("ConfigIni.txt")) && !QFileInfo::exists(at("desktop")));
     }
 
     void aKilledCreationLeavesNoFolder()
