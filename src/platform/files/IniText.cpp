@@ -1,5 +1,6 @@
 #include "platform/files/IniText.h"
 
+#include "platform/text/Utf8.h"
 #include "platform/text/Windows1252.h"
 
 #include <algorithm>
@@ -28,7 +29,8 @@ Line lineAt(QByteArrayView bytes, qsizetype begin)
 /// Whether nothing but blanks stands between the last line end and here.
 bool beginsLine(QByteArrayView before)
 {
-    while (before.endsWith(' ') || before.endsWith('\t') || before.endsWith('\r'))
+    constexpr QByteArrayView blanks(" \t\v\f\r");
+    while (!before.isEmpty() && blanks.contains(before.back()))
         before.chop(1);
     return before.isEmpty() || before.endsWith('\n');
 }
@@ -43,7 +45,7 @@ QString decoded(QByteArrayView part)
 {
     if (isAscii(part))
         return QString::fromLatin1(part);
-    return part.isValidUtf8() ? QString::fromUtf8(part) : fromWindows1252(part);
+    return part.isValidUtf8() ? fromUtf8(part) : fromWindows1252(part);
 }
 
 bool isNamed(QByteArrayView name, QStringView wanted)
@@ -79,9 +81,10 @@ void IniText::setValue(const QString &section, const QString &key, const QString
         text = key + u'=' + value + lineEnd();
         if (!place.sectionFound)
             text.prepend(u'[' + section + u']' + lineEnd());
-        const bool behindOpenLine = place.begin > m_start && m_bytes.at(place.begin - 1) != '\n';
-        if (behindOpenLine)
-            text.prepend(lineEnd());
+        const char before = place.begin > m_start ? m_bytes.at(place.begin - 1) : '\n';
+        // Half a line end is completed, as a whole one behind it would leave its half in the value before.
+        if (before != '\n')
+            text.prepend(before == '\r' ? "\n" : lineEnd());
     }
     m_bytes.replace(place.begin, place.end - place.begin, encoded(text));
 }

@@ -5,6 +5,7 @@
 #include <QScopeGuard>
 
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -232,7 +233,10 @@ Expression ExpressionParser::value()
     }
     if (token.kind == TokenKind::Number) {
         m_tokens.advance();
-        return Expression::ofNumber(token.text.toDouble());
+        const double number = token.text.toDouble();
+        if (!std::isfinite(number))
+            throw RunTimeError(ErrorNumber::Overflow, "A number is too large.");
+        return Expression::ofNumber(number);
     }
     if (takeWord(u"True"))
         return Expression::ofBoolean(true);

@@ -2,6 +2,7 @@
 
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
+#include "platform/text/Utf8.h"
 
 #include <charconv>
 
@@ -38,7 +39,7 @@ QString FieldValue::text() const
     case Kind::Text:
         break;
     }
-    return QString::fromUtf8(m_utf8.data(), static_cast<qsizetype>(m_utf8.size()));
+    return fromUtf8({m_utf8.data(), static_cast<qsizetype>(m_utf8.size())});
 }
 
 double FieldValue::number() const

@@ -288,7 +288,7 @@ std::optional<double> readNumber(std::string_view utf8)
         return regionalNumber(utf8);
     // Some regions group by a no-break space or have a currency sign beyond ASCII.
     constexpr qsizetype UsualLength = 128;
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
     QVarLengthArray<QChar, UsualLength> utf16(decoder.requiredSpace(static_cast<qsizetype>(utf8.size())));
     const QChar *const end = decoder.appendToBuffer(utf16.data(), QByteArrayView(utf8));
     return readNumber(QStringView(utf16.data(), end));

@@ -3,6 +3,7 @@
 #include "platform/jet/TextOrder.h"
 #include "platform/text/Numbers.h"
 
+#include <cmath>
 #include <string_view>
 
 namespace {
@@ -52,7 +53,13 @@ void cstr(sqlite3_context *context, int, sqlite3_value **arguments)
 {
     if (sqlite3_value_type(*arguments) == SQLITE_NULL)
         return;
-    const QByteArray text = Cstr(sqlite3_value_double(*arguments)).toUtf8();
+    const double number = sqlite3_value_double(*arguments);
+    // The engine reckons beyond every double, and no exception may cross it.
+    if (!std::isfinite(number)) {
+        refuse(context);
+        return;
+    }
+    const QByteArray text = Cstr(number).toUtf8();
     sqlite3_result_text(context, text.constData(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
 }
 
