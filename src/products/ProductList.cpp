@@ -14,12 +14,17 @@
 #include "ui_frmcadastro_produtos.h"
 
 #include <array>
-#include <utility>
 
 namespace {
 constexpr QSize searchPictureSize(20, 20);
 const QString none = "-";
 const QString service = "X";
+
+struct ListedField
+{
+    QString name;
+    int column;
+};
 
 QString menuText(bool inMenu)
 {
@@ -79,15 +84,13 @@ void ProductList::fill(Recordset &rs)
     // Asked once, not for every row.
     const QString inMenu = menuText(true);
     const QString notInMenu = menuText(false);
-    const std::array<std::pair<QString, int>, 7> columns{{{"Codigo", ProductColumn::Codigo},
-                                                          {"Descrição", ProductColumn::Description},
-                                                          {"Categoria", ProductColumn::Category},
-                                                          {"Cod", ProductColumn::Code},
-                                                          {"Valor_Unitario", ProductColumn::Price},
-                                                          {"Fornecedor", ProductColumn::Supplier},
-                                                          {"Cod_Barra", ProductColumn::Barcode}}};
-    const std::array<std::pair<QString, int>, 2> stocks{
-        {{"Quantidade", ProductColumn::Stock}, {"Estoque_Min", ProductColumn::MinimumStock}}};
+    const std::array texts{
+        ListedField{"Codigo", ProductColumn::Codigo},        ListedField{"Descrição", ProductColumn::Description},
+        ListedField{"Categoria", ProductColumn::Category},   ListedField{"Cod", ProductColumn::Code},
+        ListedField{"Valor_Unitario", ProductColumn::Price}, ListedField{"Fornecedor", ProductColumn::Supplier},
+        ListedField{"Cod_Barra", ProductColumn::Barcode}};
+    const std::array stocks{ListedField{"Quantidade", ProductColumn::Stock},
+                            ListedField{"Estoque_Min", ProductColumn::MinimumStock}};
     const QString servico = "Servico";
     const QString cardapio = "Cardapio";
     const auto isTrue = [&rs](const QString &field) {
@@ -102,13 +105,13 @@ void ProductList::fill(Recordset &rs)
         const auto show = [&](int column, const auto &text) {
             OnErrorResumeNext([&] { grid.setTextMatrix(row, column, text()); });
         };
-        for (const auto &[field, column] : columns)
-            show(column, [&] { return rs.Fields(field).text(); });
+        for (const ListedField &each : texts)
+            show(each.column, [&] { return rs.Fields(each.name).text(); });
         bool isService = false;
         OnErrorResumeNext([&] { isService = isTrue(servico); });
         show(ProductColumn::Service, [&] { return isService ? service : none; });
-        for (const auto &[field, column] : stocks)
-            show(column, [&] { return isService ? none : rs.Fields(field).text(); });
+        for (const ListedField &each : stocks)
+            show(each.column, [&] { return isService ? none : rs.Fields(each.name).text(); });
         show(ProductColumn::Menu, [&] { return isTrue(cardapio) ? inMenu : notInMenu; });
     }
 }
