@@ -101,6 +101,9 @@ void frmcodigo_rapido::Venda_ao_Cliente(const QString &Nome, const QString &Nick
         ui->txtadi_cartao->setText(code);
         ui->lblcodigo->setText(codeTexts.loaded("String2") + code);
     });
+    // The keyboard begins here, and what is typed replaces the proposal.
+    ui->txtadi_cartao->setFocus();
+    ui->txtadi_cartao->selectAll();
 }
 
 void frmcodigo_rapido::optexpira_Click()

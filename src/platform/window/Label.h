@@ -2,7 +2,8 @@
 
 #include <QLabel>
 
-/// A label that tells of a change of its caption.
+/// A label that tells of a change of its caption, to the program and to a screen reader, which speaks it behind the
+/// label's `accessibleName`. One with a focus policy is pressed by Space or Enter, too.
 class Label : public QLabel
 {
     Q_OBJECT
@@ -20,4 +21,7 @@ signals:
 
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 };
