@@ -74,9 +74,10 @@ QString spokenName(QWidget &control)
     for (const auto &[label, relation] : access->relations(QAccessible::Label))
         if (label->role() != QAccessible::Grouping)
             return label->text(QAccessible::Name);
-    // Asked for its name a list says its entry, and a box without a label the title of the frame around it.
+    // Asked for its name a list says its entry, and what has neither label nor caption the title of its frame.
     const auto *frame = qobject_cast<QGroupBox *>(control.parentWidget());
-    const bool borrows = frame && control.accessibleName().isEmpty() && !qobject_cast<QAbstractButton *>(&control);
+    const auto *button = qobject_cast<QAbstractButton *>(&control);
+    const bool borrows = frame && control.accessibleName().isEmpty() && (!button || button->text().isEmpty());
     const QString name = access->text(QAccessible::Name);
     return control.inherits("QComboBox") || (borrows && name == frame->title()) ? QString() : name.trimmed();
 }
