@@ -5,6 +5,7 @@
 #include "customers/CustomerTexts.h"
 #include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
+#include "platform/base/LongWork.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Forms.h"
 #include "platform/window/KeyCodes.h"
@@ -44,6 +45,7 @@ void CustomerList::Ordenar_Tabela(const QString &campo)
 {
     FlexGrid &grid = *ui.tab_clientes;
     RecordsetHandle rs;
+    const LongWork work;
     OnErrorGoToEnd([&] {
         Abrir_Banco_Principal();
         grid.setUpdatesEnabled(false);
@@ -96,6 +98,7 @@ void CustomerList::fill(Recordset &rs)
         grid.setTextMatrix(m_state.TotalClientes, CustomerColumn::Authorised,
                            authorisation(!authorised.isNull() && authorised.boolean()));
         DoEvents();
+        LongWork::goOn();
     }
 }
 

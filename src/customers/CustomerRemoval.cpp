@@ -8,6 +8,7 @@
 #include "customers/CustomerTexts.h"
 #include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
+#include "platform/base/LongWork.h"
 #include "platform/window/FlexGrid.h"
 #include "platform/window/Form.h"
 #include "platform/window/Prompts.h"
@@ -52,6 +53,7 @@ bool excluirClientes(Form &form, const FlexGrid &tab_clientes, const CustomerSta
 
     form.setMousePointer(vbHourglass);
     const bool removed = OnErrorGoToEnd([&] {
+        const LongWork work;
         // The path of the main program's server takes the place of the one in force until a window is opened from the
         // main window again; the open file goes on. That stays.
         CaminhoBD = Ler_INI(caminhoConfig(), "SQL", "servidor");

@@ -2,6 +2,7 @@
 
 #include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
+#include "platform/base/LongWork.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/FlexGrid.h"
 #include "platform/window/Form.h"
@@ -51,6 +52,7 @@ bool removerProdutos(Form &form, const FlexGrid &tab_produtos, const ProductStat
         return false;
     }
     OnErrorResumeNext([&] {
+        const LongWork work;
         executeStatement("DELETE FROM Produtos WHERE " +
                          conditionOf(tab_produtos, std::min(picked, selected), std::max(picked, selected)));
     });

@@ -4,6 +4,7 @@
 #include "configuration/WindowTexts.h"
 #include "data/Funcoes.h"
 #include "platform/base/Err.h"
+#include "platform/base/LongWork.h"
 #include "platform/base/Machine.h"
 #include "platform/files/TextOutput.h"
 #include "platform/print/Printer.h"
@@ -104,6 +105,7 @@ void printPages(Printer &printer, const PrintedList &list)
             printHead(printer, list, moment, ++page);
             counter = 1 + list.linesOfHead;
         }
+        LongWork::goOn();
         writeEntry(list, row, [&](const QString &line, int place) {
             if (list.placedByCounter)
                 printer.setCurrentY(counter + place);
@@ -122,6 +124,7 @@ QString reportRule(int columns)
 
 void printList(const PrintedList &list)
 {
+    const LongWork work;
     Printer &printer = Printer::current();
     OnErrorGoToEnd([&] {
         setUpPage(printer);
@@ -145,6 +148,7 @@ QString chooseListFile(const WindowTexts &texts, const QString &question, const 
 
 bool saveList(const QString &file, const SavedList &list)
 {
+    const LongWork work;
     return OnErrorGoToEnd([&] {
         TextOutput output;
         const auto write = [&](const QString &line) { attempt(list.trap, [&] { output.Print(onOneLine(line)); }); };
@@ -157,8 +161,10 @@ bool saveList(const QString &file, const SavedList &list)
             write(list.columnHeads);
             write(reportRule(list.columns));
         }
-        for (int row = 1; row < list.grid.Rows(); ++row)
+        for (int row = 1; row < list.grid.Rows(); ++row) {
+            LongWork::goOn();
             writeEntry(list, row, [&](const QString &line, int) { output.Print(line); });
+        }
         for (const QString &line : list.closing)
             write(line);
         output.Close();

@@ -1,5 +1,7 @@
 #include "platform/print/PagePainter.h"
 
+#include "platform/base/LongWork.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinter>
@@ -33,6 +35,7 @@ bool paintPages(const QList<RecordedPage> &pages, QPrinter &printer)
         return false;
     bool first = true;
     for (const RecordedPage &page : pages) {
+        LongWork::goOn();
         if (!first && !printer.newPage())
             return false;
         first = false;

@@ -1,9 +1,11 @@
 #include "platform/window/Application.h"
 
 #include "platform/base/Err.h"
+#include "platform/base/LongWork.h"
 #include "platform/base/Machine.h"
 #include "platform/files/PointerFile.h"
 #include "platform/media/CameraModule.h"
+#include "platform/window/BusySign.h"
 #include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 
@@ -22,6 +24,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     // The program ends with its main window, whichever windows are open then.
     setQuitOnLastWindowClosed(false);
     applyLook(*this);
+    LongWork::setSign(showBusySign);
 
     auto *translator = new QTranslator(this);
     if (translator->load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

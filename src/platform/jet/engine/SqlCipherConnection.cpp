@@ -1,6 +1,7 @@
 #include "platform/jet/engine/SqlCipherConnection.h"
 
 #include "platform/base/Err.h"
+#include "platform/base/LongWork.h"
 #include "platform/jet/engine/SqlCipherFunctions.h"
 
 #include <QFile>
@@ -19,6 +20,14 @@ constexpr std::size_t mostPrepared = 64;
 /// Milliseconds that a statement waits for another terminal before it fails.
 constexpr int longestWait = 15'000;
 constexpr int longestStep = 15;
+/// Some milliseconds' worth of a long statement.
+constexpr int instructionsPerSign = 100'000;
+
+int workGoesOn(void *)
+{
+    LongWork::goOn();
+    return 0;
+}
 
 /// A regular file at the path. The live file is looked at by its name alone: closing any descriptor of it drops the
 /// locks that this process holds.
@@ -110,6 +119,7 @@ void SqlCipherConnection::setUp(Mode mode)
 {
     sqlite3_extended_result_codes(handle(), 1);
     sqlite3_busy_handler(handle(), waitForOthers, this);
+    sqlite3_progress_handler(handle(), instructionsPerSign, workGoesOn, nullptr);
     // Files of version 4 of the library have another layout by default; the version here does not know the pragma.
     run("PRAGMA cipher_default_compatibility = 3");
     const QByteArray key = m_access.password.toUtf8();

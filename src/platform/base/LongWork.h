@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <functional>
+
+/// A routine that may take long. Whatever works inside it says with `goOn` that it does, however often: the sign of
+/// life follows the clock, not the calls. No events run for it, so that nobody can change what the routine works on.
+class LongWork
+{
+public:
+    LongWork();
+    ~LongWork();
+    Q_DISABLE_COPY_MOVE(LongWork)
+
+    static void goOn();
+
+    /// What draws the sign's next picture, or takes it away when the work is done.
+    using Sign = std::function<void(bool working)>;
+    static void setSign(const Sign &sign);
+};

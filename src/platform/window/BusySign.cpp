@@ -1,0 +1,68 @@
+#include "platform/window/BusySign.h"
+
+#include "platform/window/Forms.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPointer>
+
+namespace {
+constexpr int stripHeight = 4;
+constexpr int steps = 20;
+constexpr int stepsOfBar = 5;
+
+class BusyStrip : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    void goOn()
+    {
+        m_step = (m_step + 1) % steps;
+        setGeometry(0, window()->height() - stripHeight, window()->width(), stripHeight);
+        show();
+        raise();
+        repaint();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), palette().color(QPalette::Mid));
+        const int left = width() * (m_step - stepsOfBar) / (steps - stepsOfBar);
+        painter.fillRect(left, 0, width() * stepsOfBar / steps, height(), palette().color(QPalette::Highlight));
+    }
+
+private:
+    int m_step = 0;
+};
+
+/// The window last opened stands in front where the system has told of none yet, as after a message box.
+QWidget *windowInFront()
+{
+    if (auto *active = qobject_cast<Form *>(QApplication::activeWindow()))
+        return active;
+    QWidget *front = nullptr;
+    for (Form *form : Forms::loaded())
+        if (form->isVisible())
+            front = form;
+    return front;
+}
+} // namespace
+
+void showBusySign(bool working)
+{
+    static QPointer<BusyStrip> strip;
+    if (!working) {
+        delete strip;
+        return;
+    }
+    if (!strip) {
+        QWidget *window = windowInFront();
+        if (!window)
+            return;
+        strip = new BusyStrip(window);
+    }
+    strip->goOn();
+}
