@@ -96,6 +96,7 @@ void frmcodigo_rapido::Venda_ao_Cliente(const QString &Nome, const QString &Nick
     m_state.Nome_Cliente = Nome;
     m_state.Nick_Cliente = Nick;
     ui->lblcliente->setText(Nome.toUpper());
+    fitToContents();
     readFirstRow("Select Codigo From Clientes Where Nome='" + Nome + "'", [&](const Recordset &rs) {
         const QString code = rs.Fields("Codigo").text();
         ui->txtadi_cartao->setText(code);
@@ -127,11 +128,14 @@ void frmcodigo_rapido::showShape(bool prepaid)
     for (QWidget *part : {static_cast<QWidget *>(ui->frame_conjunto_valor), static_cast<QWidget *>(ui->chkrecibo),
                           static_cast<QWidget *>(ui->lblconfigurar_recibo)})
         part->setVisible(prepaid);
-    // The window takes the height that is left of it.
+    fitToContents();
+}
+
+void frmcodigo_rapido::fitToContents()
+{
     ui->frame_global->layout()->activate();
     ui->frame_global->updateGeometry();
-    layout()->activate();
-    setFixedHeight(layout()->sizeHint().height());
+    fitHeight();
 }
 
 void frmcodigo_rapido::txtvalor_disponível_Change()

@@ -32,6 +32,8 @@ private:
     void optexpira_Click();
     void opttempo_indeterminado_Click();
     void showShape(bool prepaid);
+    /// A long name takes a second line, and one shape is lower than the other.
+    void fitToContents();
     void txtvalor_disponível_Change();
     void lbltotal_Change();
 

@@ -12,6 +12,7 @@
 #include "customers/CustomerUniqueness.h"
 #include "data/FirstRow.h"
 #include "platform/text/Numbers.h"
+#include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 #include "ui_frmcadastro_clientes.h"
 
@@ -135,4 +136,5 @@ void CustomerEditing::setUnderEdit(bool underEdit)
     for (QPushButton *button : {ui.cmdexcluir, ui.cmdok, ui.cmdordenar})
         button->setEnabled(!underEdit);
     ui.cmdeditar->setText(customerTexts.loaded(underEdit ? "String11" : "String10"));
+    setCardState(*ui.frame_cadastro, underEdit ? CardState::Editing : CardState::Resting);
 }

@@ -3,6 +3,7 @@
 #include "data/FirstRow.h"
 #include "data/Funcoes.h"
 #include "platform/text/Numbers.h"
+#include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 #include "products/CategoryList.h"
 #include "products/CategoryState.h"
@@ -152,4 +153,5 @@ void CategoryEditing::setUnderEdit(bool underEdit)
     for (QPushButton *button : {ui.cmdremover, ui.cmdadicionar})
         button->setEnabled(!underEdit);
     ui.cmdeditar->setText(categoryTexts.loaded(underEdit ? "String6" : "String5"));
+    setCardState(*ui.frame_cadastro, underEdit ? CardState::Editing : CardState::Resting);
 }

@@ -2,6 +2,7 @@
 
 #include "data/FirstRow.h"
 #include "platform/text/Numbers.h"
+#include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 #include "products/ProductColumns.h"
 #include "products/ProductForm.h"
@@ -77,4 +78,5 @@ void ProductEditing::setUnderEdit(bool underEdit)
     // The sales refer to the description, so that it never changes.
     ui.txtdescrição->setEnabled(!underEdit);
     ui.cmdeditar->setText(productTexts.loaded(underEdit ? "String8" : "String7"));
+    setCardState(*ui.frame_cadastro, underEdit ? CardState::Editing : CardState::Resting);
 }

@@ -3,6 +3,7 @@
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
+#include "platform/base/LongWork.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
 #include "platform/window/Pictures.h"
@@ -56,6 +57,11 @@ ProductList::ProductList(Ui::frmcadastro_produtos &window, ProductState &state, 
     caretToEndOnChange(ui.txtdescrição_busca);
     connect(ui.tab_produtos, &FlexGrid::Click, this, &ProductList::tab_produtos_Click);
     connect(ui.tab_produtos, &FlexGrid::SelChange, this, &ProductList::tab_produtos_Click);
+    ui.tab_produtos->setAttention([this](int row, int column) {
+        const QString minimum = ui.tab_produtos->TextMatrix(row, ProductColumn::MinimumStock);
+        return column == ProductColumn::Stock && minimum != none &&
+               Val(minimum) >= Val(ui.tab_produtos->TextMatrix(row, column));
+    });
 }
 
 void ProductList::load()
@@ -67,6 +73,7 @@ void ProductList::load()
     grid.setRows(1);
     m_state.Total_Produtos = 0;
 
+    const LongWork work;
     RecordsetHandle rs;
     Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Order By Descrição");
     if (rs)
@@ -98,6 +105,7 @@ void ProductList::fill(Recordset &rs)
     };
 
     for (; !rs.Eof(); rs.MoveNext()) {
+        LongWork::goOn();
         const int row = ++m_state.Total_Produtos;
         // In leaps, because each growth is told to the view.
         if (row >= grid.Rows())

@@ -11,6 +11,7 @@
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Form.h"
+#include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 #include "sale/ProductReceipt.h"
 #include "sale/ProductRules.h"
@@ -37,13 +38,20 @@ QString SaleConfirmation::cartText(int row, int column) const
     return ui.tab_consumo->TextMatrix(row, column);
 }
 
+void SaleConfirmation::lock(bool locked)
+{
+    m_discount.Bloqueio_Desconto = locked;
+    for (QGroupBox *card : {ui.frame_cliente, ui.frame_produto, ui.frame_cesta, ui.frame_desconto})
+        setCardState(*card, locked ? CardState::Locked : CardState::Resting);
+}
+
 void SaleConfirmation::refuse(const QString &key, QWidget *focus)
 {
     m_form.setMousePointer(vbDefault);
     saleTexts.notice(key);
     if (focus)
         focus->setFocus();
-    m_discount.Bloqueio_Desconto = false;
+    lock(false);
 }
 
 void SaleConfirmation::cmdfinalizar_Click()
@@ -54,7 +62,7 @@ void SaleConfirmation::cmdfinalizar_Click()
     if (!prepare())
         return;
 
-    m_discount.Bloqueio_Desconto = true;
+    lock(true);
     const int answer = ask();
     // The rules are looked at after the question and before its answer, so a refusal comes even after a no.
     if (ui.chkdesconto->isChecked() && m_discount.ruleRefuses())
@@ -63,7 +71,7 @@ void SaleConfirmation::cmdfinalizar_Click()
         return refuse("MsgBox17", ui.cmbprodutos);
     if (answer == vbYes)
         store();
-    m_discount.Bloqueio_Desconto = false;
+    lock(false);
 }
 
 bool SaleConfirmation::prepare()
@@ -152,7 +160,7 @@ void SaleConfirmation::store()
             printProductReceipt(ui, m_discount);
         Tocar_Caixa();
     }
-    m_discount.Bloqueio_Desconto = false;
+    lock(false);
     m_form.setMousePointer(vbDefault);
     saleTexts.notice("MsgBox13");
     if (!m_lowStock.isEmpty())

@@ -37,6 +37,8 @@ private:
     quint8 Estoque_Minimo(const QString &descricao) const;
     void reset();
     void refuse(const QString &key, class QWidget *focus);
+    /// While a sale is being confirmed, the window takes no entries.
+    void lock(bool locked);
     QString cartText(int row, int column) const;
 
     Form &m_form;

@@ -5,7 +5,9 @@
 #include "data/Acesso_BD.h"
 #include "data/Placeholders.h"
 #include "platform/base/Err.h"
+#include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
+#include "platform/window/Look.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
 
@@ -97,6 +99,7 @@ void SaleProducts::cmbprodutos_Click()
     }
     const QString text = ui.cmbprodutos->currentText();
     if (text.isEmpty()) {
+        setWarning(*ui.lblquant_estoque, false);
         ui.lblpreço_unitario->setCaption(saleTexts.loaded("String2"));
         ui.lblquant_estoque->setCaption(saleTexts.loaded("String3"));
         return;
@@ -118,6 +121,8 @@ void SaleProducts::Info_Produto(const QString &descricao)
         ui.lblquant_estoque->setCaption(rs->Fields("Servico").boolean()
                                             ? saleTexts.loaded("String4")
                                             : saleTexts.loaded("String3") + rs->Fields("Quantidade").text());
+        setWarning(*ui.lblquant_estoque, !rs->Fields("Servico").boolean() && Val(rs->Fields("Estoque_Min").utf8()) >=
+                                                                                 Val(rs->Fields("Quantidade").utf8()));
         Fechar_Recordset(rs);
     });
 }

@@ -12,6 +12,7 @@
 #include "platform/text/Numbers.h"
 #include "platform/window/Forms.h"
 #include "platform/window/KeyCodes.h"
+#include "platform/window/Look.h"
 #include "products/frmcadastro_produtos.h"
 #include "sale/ProductRules.h"
 #include "sale/SaleCart.h"
@@ -72,6 +73,10 @@ void frmvenda::connectPayment()
     connect(ui->optnão_pago, &QRadioButton::clicked, this, [this] {
         m_state.Debito_Venda = yesFlag;
         ui->txtvalor_pago->setEnabled(false);
+    });
+    connect(ui->optnão_pago, &QRadioButton::toggled, this, [this](bool unpaid) {
+        for (QGroupBox *card : {ui->frame_pagamento, ui->frame_totais})
+            setCardState(*card, unpaid ? CardState::Attention : CardState::Resting);
     });
 }
 

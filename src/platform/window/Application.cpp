@@ -10,7 +10,6 @@
 #include "platform/window/Prompts.h"
 
 #include <QLibraryInfo>
-#include <QPalette>
 #include <QPrinterInfo>
 #include <QTranslator>
 
@@ -50,10 +49,4 @@ bool Application::notify(QObject *receiver, QEvent *event)
     }
     // At once: routines that wait below must not run on, and what was executed stays.
     std::_Exit(EXIT_FAILURE);
-}
-
-bool isDarkDesktop()
-{
-    const QPalette palette = QGuiApplication::palette();
-    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }

@@ -13,6 +13,3 @@ public:
 
     bool notify(QObject *receiver, QEvent *event) override;
 };
-
-/// Whether the desktop's palette is a dark one.
-bool isDarkDesktop();

@@ -191,6 +191,11 @@ QPixmap FlexGrid::CellPicture() const
     return m_model->picture(Row(), Col());
 }
 
+void FlexGrid::setAttention(const std::function<bool(int row, int col)> &attention)
+{
+    m_model->setAttention(attention);
+}
+
 void FlexGrid::Clear()
 {
     m_model->clear();

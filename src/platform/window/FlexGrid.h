@@ -3,6 +3,8 @@
 #include <QPixmap>
 #include <QTableView>
 
+#include <functional>
+
 class FlexGridModel;
 
 /// The flexible grid: texts in rows and columns, row 0 being the headings.
@@ -59,6 +61,9 @@ public:
     /// Picture of the current cell; a null picture removes it.
     void setCellPicture(const QPixmap &picture);
     QPixmap CellPicture() const;
+
+    /// Tells which texts stand out because they want attention; asked whenever one is drawn.
+    void setAttention(const std::function<bool(int row, int col)> &attention);
 
     /// Empties all texts and pictures, the headings' too; rows and columns stay.
     void Clear();

@@ -1,5 +1,9 @@
 #include "platform/window/FlexGridModel.h"
 
+#include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
+
 #include <algorithm>
 
 int FlexGridModel::rowCount(const QModelIndex &parent) const
@@ -25,6 +29,17 @@ QVariant FlexGridModel::data(const QModelIndex &index, int role) const
         return {};
     case Qt::TextAlignmentRole:
         return headerData(index.column(), Qt::Horizontal, role);
+    case Qt::ForegroundRole:
+        if (m_attention && m_attention(row, index.column()))
+            return QGuiApplication::palette().brush(QPalette::BrightText);
+        return {};
+    case Qt::FontRole:
+        if (m_attention && m_attention(row, index.column())) {
+            QFont font;
+            font.setBold(true);
+            return font;
+        }
+        return {};
     default:
         return {};
     }

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QPixmap>
 
+#include <functional>
 #include <map>
 
 /// Texts of a grid, row by row; row 0 is the headings, so that the view's first row is the grid's row 1.
@@ -31,6 +32,7 @@ public:
     void setPicture(int row, int col, const QPixmap &picture);
     void setAlignment(int col, Qt::Alignment alignment);
     void clear();
+    void setAttention(std::function<bool(int row, int col)> attention) { m_attention = std::move(attention); }
 
 private:
     qsizetype cell(int row, int col) const { return qsizetype(row) * m_cols + col; }
@@ -40,4 +42,5 @@ private:
     QList<QString> m_texts = QList<QString>(2);
     QList<Qt::Alignment> m_alignments;
     std::map<std::pair<int, int>, QPixmap> m_pictures;
+    std::function<bool(int, int)> m_attention;
 };

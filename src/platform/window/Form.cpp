@@ -2,10 +2,18 @@
 
 #include "platform/window/Forms.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QLayout>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
 #include <QWindow>
+
+#include <algorithm>
 
 Form::Form()
 {
@@ -27,9 +35,61 @@ void Form::Show()
         return;
     if (isMinimized())
         setWindowState(windowState() & ~Qt::WindowMinimized);
+    if (!isVisible())
+        fitToScreen();
     show();
     raise();
     activateWindow();
+}
+
+void Form::fitHeight()
+{
+    QLayout &contents = m_page ? *m_page->layout() : *layout();
+    contents.activate();
+    const int height =
+        contents.hasHeightForWidth() ? contents.totalHeightForWidth(width()) : contents.totalSizeHint().height();
+    (m_page ? *m_page : static_cast<QWidget &>(*this)).setFixedHeight(height);
+}
+
+void Form::fitToScreen()
+{
+    if (m_page || !layout())
+        return;
+    const QSize room = screen()->availableGeometry().size() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    const QSize wanted = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    const QSize size = wanted.boundedTo(room);
+    QSize least = layout()->totalMinimumSize().expandedTo(minimumSize());
+    if (layout()->hasHeightForWidth())
+        least.setHeight(std::max(least.height(), layout()->totalMinimumHeightForWidth(size.width())));
+    if (least.width() > room.width() || least.height() > room.height())
+        scrollContents();
+    if (size != wanted)
+        resize(size);
+}
+
+/// Whatever does not fit the screen can be reached by scrolling, and comes into view when it takes the keyboard.
+void Form::scrollContents()
+{
+    QLayout *contents = layout();
+    m_page = new QWidget;
+    // Lists are as high as they like to be, as the page has no end.
+    m_page->setMinimumHeight(contents->totalSizeHint().height());
+    m_page->setLayout(contents);
+    setMinimumSize(0, 0);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+
+    auto *scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(m_page);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(scroll);
+    connect(qApp, &QApplication::focusChanged, scroll, [this, scroll](QWidget *, QWidget *now) {
+        if (now && m_page->isAncestorOf(now))
+            scroll->ensureWidgetVisible(now);
+    });
 }
 
 void Form::Unload()

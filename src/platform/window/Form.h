@@ -30,6 +30,9 @@ public:
     void setMousePointer(int pointer);
 
 protected:
+    /// Gives the window the height of what it shows now.
+    void fitHeight();
+
     virtual void Form_Load() {}
     /// Runs when the program's active window changes to this one; coming back from a message box or from another
     /// program is no activation.
@@ -42,8 +45,12 @@ protected:
 private:
     friend class Forms;
     void Load();
+    void fitToScreen();
+    void scrollContents();
 
     bool m_loaded = false;
+    /// Holds the contents of a window that is larger than the screen.
+    QWidget *m_page = nullptr;
 };
 
 /// Keeps a window above all others, or lets it go back among them.

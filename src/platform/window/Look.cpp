@@ -1,10 +1,10 @@
 #include "platform/window/Look.h"
 
-#include "platform/window/Application.h"
 #include "platform/window/LookStyle.h"
 
+#include <QApplication>
+#include <QGroupBox>
 #include <QPalette>
-#include <QWidget>
 
 namespace {
 
@@ -29,12 +29,34 @@ constexpr Colour colours[] = {
 };
 
 constexpr Colour disabledColours[] = {
-    {QPalette::WindowText, 0x78838f, 0x858f99},    {QPalette::Text, 0x78838f, 0x858f99},
-    {QPalette::ButtonText, 0x78838f, 0x858f99},    {QPalette::Base, 0xeef1f4, 0x1e2226},
+    {QPalette::WindowText, 0x5c6874, 0x9aa4ae},    {QPalette::Text, 0x5c6874, 0x9aa4ae},
+    {QPalette::ButtonText, 0x5c6874, 0x9aa4ae},    {QPalette::Base, 0xeef1f4, 0x1e2226},
     {QPalette::AlternateBase, 0xeef1f4, 0x1e2226}, {QPalette::Button, 0xeef1f4, 0x262b30},
     {QPalette::Highlight, 0xb9c3ce, 0x4a525a},     {QPalette::HighlightedText, 0x3f4a56, 0xc5ccd3},
     {QPalette::Dark, 0xc3ccd5, 0x4a525a},
 };
+
+struct StateColour
+{
+    CardState state;
+    QRgb lightFill;
+    QRgb lightBorder;
+    QRgb darkFill;
+    QRgb darkBorder;
+};
+
+constexpr StateColour stateColours[] = {
+    {CardState::Attention, 0xfff4e0, 0xb86e00, 0x3a2d17, 0xe0a04a},
+    {CardState::Editing, 0xeaf3fc, 0x1f66ad, 0x1c2d3f, 0x6fb0ee},
+    {CardState::Locked, 0xe6eaee, 0x6b7783, 0x33393f, 0x8d97a1},
+};
+
+const char *const stateProperty = "cardState";
+
+bool isDark(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
 
 } // namespace
 
@@ -50,13 +72,36 @@ QPalette lookPalette(bool dark)
 
 void applyLook(QApplication &application)
 {
-    const bool dark = isDarkDesktop();
+    const bool dark = isDark(QGuiApplication::palette());
     application.setStyle(new LookStyle);
     application.setPalette(lookPalette(dark));
 }
 
+void setCardState(QGroupBox &card, CardState state)
+{
+    card.setProperty(stateProperty, static_cast<int>(state));
+    card.update();
+}
+
+CardState cardState(const QWidget *card)
+{
+    return card ? static_cast<CardState>(card->property(stateProperty).toInt()) : CardState::Resting;
+}
+
+CardColours cardColours(CardState state, const QPalette &palette)
+{
+    const bool dark = isDark(palette);
+    for (const StateColour &each : stateColours)
+        if (each.state == state)
+            return {QColor::fromRgb(dark ? each.darkFill : each.lightFill),
+                    QColor::fromRgb(dark ? each.darkBorder : each.lightBorder)};
+    return {palette.color(QPalette::Light), palette.color(QPalette::Mid)};
+}
+
 void setWarning(QWidget &widget, bool warning)
 {
+    if (widget.property("warning").toBool() == warning)
+        return;
     widget.setProperty("warning", warning);
     widget.style()->polish(&widget);
 }

@@ -1,5 +1,8 @@
 #include "platform/window/LookStyle.h"
 
+#include "platform/window/Look.h"
+#include "platform/window/Pictures.h"
+
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
@@ -22,6 +25,8 @@ constexpr qreal cardRadius = 8;
 constexpr int memoMargin = 5;
 constexpr int cardMargin = 15;
 constexpr int titleDrop = 5;
+constexpr int stateStripe = 4;
+constexpr QSize statePicture(16, 16);
 constexpr qreal totalScale = 1.7;
 
 bool asks(const QWidget *widget, const char *property)
@@ -71,6 +76,26 @@ void drawField(QPainter *painter, const QStyleOption *option, const QColor &fill
             option->palette.color(focused ? QPalette::Highlight : QPalette::Dark), focused ? 2 : 1);
 }
 
+/// A card's state shows in its colour, in a stripe at its left, and in a picture for those who don't see colours.
+void drawCard(QPainter *painter, const QStyleOption *option, const QWidget *widget)
+{
+    const CardState state = cardState(widget);
+    const CardColours colours = cardColours(state, option->palette);
+    drawBox(painter, option->rect, cardRadius, colours.fill, colours.border);
+    if (state == CardState::Resting)
+        return;
+    const QRect stripe(option->rect.topLeft(), QSize(stateStripe, option->rect.height()));
+    painter->save();
+    painter->setClipRect(stripe);
+    drawBox(painter, option->rect, cardRadius, colours.border, colours.border);
+    painter->restore();
+    const QString picture = state == CardState::Attention ? "estado_atencao"
+                            : state == CardState::Editing ? "estado_edicao"
+                                                          : "estado_bloqueado";
+    painter->drawPixmap(option->rect.topRight() + QPoint(-cardMargin - statePicture.width(), titleDrop),
+                        bundledPicture(picture, statePicture));
+}
+
 /// The box of a check box or the circle of an option.
 void drawIndicator(QPainter *painter, const QStyleOption *option, bool round)
 {
@@ -106,7 +131,8 @@ void drawProgress(QPainter *painter, const QStyleOptionProgressBar &bar)
     filled.setWidth(qRound(bar.rect.width() * std::clamp(share, 0.0, 1.0)));
     if (bar.invertedAppearance)
         filled.moveRight(bar.rect.right());
-    const QColor accent = bar.palette.color(QPalette::Highlight);
+    // Where it has arrived, it rests.
+    const QColor accent = bar.palette.color(share < 1 ? QPalette::Highlight : QPalette::Mid);
     if (!filled.isEmpty())
         drawBox(painter, filled, radius, accent, accent);
 }
@@ -185,10 +211,15 @@ void LookStyle::polish(QWidget *widget)
             label->setFont(font);
         }
         const bool warning = asks(label, "warning");
-        if (warning || asks(label, "quiet") || label->foregroundRole() == QPalette::BrightText)
-            label->setForegroundRole(warning                ? QPalette::BrightText
-                                     : asks(label, "quiet") ? QPalette::PlaceholderText
-                                                            : QPalette::WindowText);
+        if (warning != (label->foregroundRole() == QPalette::BrightText)) {
+            QFont font = label->font();
+            font.setBold(warning);
+            label->setFont(font);
+        }
+        label->setForegroundRole(warning                ? QPalette::BrightText
+                                 : asks(label, "quiet") ? QPalette::PlaceholderText
+                                 : asks(label, "link")  ? QPalette::Link
+                                                        : QPalette::WindowText);
     }
     // Its frame shows the focus, which repaints the viewport alone.
     if (qobject_cast<QAbstractScrollArea *>(widget))
@@ -225,9 +256,11 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
         return 16;
-    case PM_HeaderMargin:
     case PM_FocusFrameHMargin:
         return 5;
+    case PM_HeaderMargin:
+        // Above the texts of the column, which leave a pixel more.
+        return 6;
     case PM_DefaultFrameWidth:
         // Room for the ring inside the frame of lists and multi-line boxes.
         return qobject_cast<const QAbstractScrollArea *>(widget) ? 2 : QProxyStyle::pixelMetric(metric, option, widget);
@@ -244,6 +277,8 @@ int LookStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidg
 {
     switch (hint) {
     case SH_EtchDisabledText:
+    // A wheel that scrolls a window must not change what passes under it.
+    case SH_ComboBox_AllowWheelScrolling:
     case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
     default:
@@ -329,8 +364,7 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
             drawField(painter, option, option->palette.color(QPalette::Base));
         return;
     case PE_FrameGroupBox:
-        drawBox(painter, option->rect, cardRadius, option->palette.color(QPalette::Light),
-                option->palette.color(QPalette::Mid));
+        drawCard(painter, option, widget);
         return;
     case PE_Frame:
         if (qobject_cast<const QAbstractScrollArea *>(widget)) {
