@@ -2,6 +2,7 @@
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Application.h"
 #include "tour/Codes.h"
+#include "tour/ContactSheets.h"
 #include "tour/Customers.h"
 #include "tour/ProductSales.h"
 #include "tour/Products.h"
@@ -16,6 +17,10 @@ int main(int argc, char **argv)
     Application application(argc, argv);
     RegionalSettings::use(QLocale(QLocale::Portuguese, QLocale::Brazil));
     const QStringList arguments = Application::arguments();
+    if (arguments.size() == 4 && arguments.at(1) == "--scenes")
+        return drawScenes(arguments.at(2), arguments.at(3)) ? 0 : 1;
+    if (arguments.size() == 3 && arguments.at(1) == "--sheets")
+        return drawContactSheets(arguments.at(2)) ? 0 : 1;
     if (arguments.size() != 2) {
         QTextStream(stderr) << "Usage: morvelane-tour FOLDER\n";
         return 2;
