@@ -39,11 +39,12 @@ struct stat statOf(const QString &path)
     return status;
 }
 
+/// A file that was opened while it could only be read stays so: it must be opened anew once it can be written again.
 bool meansLost(int code)
 {
     const int primary = code & 0xFF;
     return primary == SQLITE_IOERR || primary == SQLITE_CANTOPEN || primary == SQLITE_CORRUPT ||
-           primary == SQLITE_NOTADB || code == SQLITE_READONLY_DBMOVED;
+           primary == SQLITE_NOTADB || primary == SQLITE_READONLY;
 }
 
 int errorNumber(int code)
