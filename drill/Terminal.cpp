@@ -1,0 +1,233 @@
+#include "drill/Terminal.h"
+
+#include "configuration/Idiomas.h"
+#include "data/Funcoes.h"
+#include "platform/base/Machine.h"
+#include "platform/text/RegionalSettings.h"
+#include "platform/window/Forms.h"
+#include "platform/window/Prompts.h"
+#include "shell/frmprincipal.h"
+#include "tests/support/Controls.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QTest>
+
+#include <iostream>
+#include <string>
+
+namespace {
+constexpr int longestStart = 30'000;
+
+void say(const QStringList &words)
+{
+    std::cout << words.join('\t').toStdString() << std::endl;
+}
+
+class Counter : public PromptService
+{
+public:
+    Counter(frmprincipal &shell, int firstSerial) : m_shell(shell), m_serial(firstSerial) {}
+
+    bool wasTold() const { return m_told; }
+
+    /// Called while the café is there: the texts by which the windows tell that something was stored.
+    void learnTexts()
+    {
+        m_doneTexts = {{"customer", textoIdioma("frmcadastro_clientes", "MsgBox21")},
+                       {"sale", textoIdioma("frmvenda", "MsgBox13")},
+                       {"code", textoIdioma("frmcodigo_rapido", "MsgBox14")}};
+    }
+
+    /// While the café is broken on purpose, nothing is tried twice.
+    void expectBroken(bool broken) { m_broken = broken; }
+
+    void work(const QString &kind)
+    {
+        ++m_serial;
+        if (kind == "sale")
+            sell();
+        else if (kind == "customer")
+            registerCustomer();
+        else if (kind == "code")
+            sellCode();
+        else if (kind == "edit")
+            edit();
+        else
+            tick();
+    }
+
+    int message(const QString &text, int style, const QString &) override
+    {
+        m_told = true;
+        if (!m_kind.isEmpty() && text == m_doneTexts.value(m_kind))
+            done();
+        else
+            say({"told", text.section('\n', 0, 0)});
+        if ((style & vbYesNo) == 0)
+            return vbOK;
+        // The question about a code comes when the customer is stored.
+        const bool offersCode = text == m_doneTexts.value("customer");
+        return offersCode && !m_wantsCode ? vbNo : vbYes;
+    }
+    QString openFile(const FileDialog &) override { return {}; }
+    QString saveFile(const FileDialog &) override { return {}; }
+
+private:
+    void begin(const QString &kind, int serial, const QString &value = {})
+    {
+        m_kind = kind;
+        m_isDone = false;
+        m_words = {kind, QString::number(serial), value};
+        say(QStringList("try") + m_words);
+    }
+    void done()
+    {
+        m_isDone = true;
+        m_kind.clear();
+        say(QStringList("done") + m_words);
+    }
+
+    /// Null when the door stays shut.
+    Form *window(const QString &door, const QString &name)
+    {
+        if (!Form_Aberto(name))
+            click(m_shell, door);
+        return Form_Aberto(name) ? &loadedWindow(name) : nullptr;
+    }
+
+    void sell()
+    {
+        Form *sale = window("cmdvendaprod", "frmvenda");
+        if (!sale)
+            return;
+        begin("sale", m_serial);
+        for (const QString &product : drilledProducts) {
+            replaceText(control(*sale, "cmbprodutos"), product);
+            pressKey(control(*sale, "cmbprodutos"), Qt::Key_Return);
+            replaceText(control(*sale, "txtquantidade"), QString::number(m_serial));
+            pressKey(control(*sale, "txtquantidade"), Qt::Key_Return);
+        }
+        replaceText(control(*sale, "txtvalor_pago"), "99999999");
+        click(*sale, "cmdfinalizar");
+        // A cart that was refused would be sold with the next one.
+        if (!m_isDone)
+            sale->Unload();
+    }
+
+    void registerCustomer()
+    {
+        constexpr int mostPresses = 50;
+        Form *customers = window("cmdclientes", "frmcadastro_clientes");
+        if (!customers)
+            return;
+        begin("customer", m_serial);
+        replaceText(control(*customers, "txtnome"), drilledCustomer(m_serial));
+        // Boxes left empty are filled with a placeholder, which a second press would find taken.
+        replaceText(control(*customers, "txtnick"), 'T' + QString::number(m_serial));
+        replaceText(control(*customers, "txtdocumento"), 'D' + QString::number(m_serial));
+        click(*customers, "cmdok");
+        // Another terminal may have taken the number; then nobody is told, and the form stays filled.
+        for (int presses = 1; !m_isDone && !m_broken && presses < mostPresses; ++presses) {
+            say({"again"});
+            click(*customers, "cmdok");
+        }
+        m_customer = m_isDone ? m_serial : 0;
+    }
+
+    void sellCode()
+    {
+        m_wantsCode = true;
+        registerCustomer();
+        m_wantsCode = false;
+        if (!Form_Aberto("frmcodigo_rapido"))
+            return;
+        begin("code", m_serial);
+        click(loadedWindow("frmcodigo_rapido"), "cmdfinalizar");
+        if (Form_Aberto("frmcodigo_rapido"))
+            loadedWindow("frmcodigo_rapido").Unload();
+    }
+
+    void edit()
+    {
+        Form *customers = window("cmdclientes", "frmcadastro_clientes");
+        if (!customers || m_customer == 0)
+            return;
+        replaceText(control(*customers, "txtnome_busca"), drilledCustomer(m_customer));
+        pressKey(control(*customers, "txtnome_busca"), Qt::Key_Return);
+        click(*customers, "cmdeditar");
+        const QString value = 'K' + QString::number(m_serial);
+        replaceText(control(*customers, "txtComplemento"), value);
+        begin("edit", m_customer, value);
+        click(*customers, "cmdeditar");
+        // The box empties when the edit has ended well; a failure would have ended the program.
+        if (control<QLineEdit>(*customers, "txtComplemento").text().isEmpty())
+            done();
+    }
+
+    void tick()
+    {
+        Form *sale = window("cmdvendaprod", "frmvenda");
+        if (!sale)
+            return;
+        auto &box = control<QCheckBox>(*sale, "chkrecibo");
+        begin("ini", 0, box.isChecked() ? "0" : "1");
+        click(box);
+        done();
+    }
+
+    frmprincipal &m_shell;
+    int m_serial;
+    int m_customer = 0;
+    QHash<QString, QString> m_doneTexts;
+    QString m_kind;
+    QStringList m_words;
+    bool m_isDone = false;
+    bool m_wantsCode = false;
+    bool m_told = false;
+    bool m_broken = false;
+};
+} // namespace
+
+QString drilledCustomer(int serial)
+{
+    return "TESTE " + QString::number(serial);
+}
+
+int runTerminal(const QString &programFolder, int firstSerial)
+{
+    RegionalSettings::use(QLocale(QLocale::Portuguese, QLocale::Brazil));
+    Machine &machine = Machine::current();
+    machine.programFolder = [=] { return programFolder; };
+    machine.printoutFolder = [=] { return programFolder; };
+    machine.printerNames = [] { return QStringList(); };
+    machine.defaultPrinterName = [] { return QString(); };
+    machine.playWave = [](const QString &) {};
+    machine.openDocument = [](const QString &) {};
+
+    auto &shell = Forms::use<frmprincipal>();
+    Counter counter(shell, firstSerial);
+    PromptService::use(&counter);
+    shell.Show();
+    const auto &door = control<QAbstractButton>(shell, "cmdvendaprod");
+    const bool settled = QTest::qWaitFor([&] { return door.isEnabled() || counter.wasTold(); }, longestStart);
+    if (!settled)
+        return EXIT_FAILURE;
+    say({door.isEnabled() ? "ready" : "closed"});
+    counter.learnTexts();
+    for (std::string line; std::getline(std::cin, line);) {
+        const QStringList order = QString::fromStdString(line).split(' ');
+        counter.expectBroken(order.value(2) == "broken");
+        QElapsedTimer clock;
+        clock.start();
+        do {
+            for (const QString &kind : order.value(0).split(','))
+                counter.work(kind);
+        } while (clock.elapsed() < order.value(1).toInt() * 1000);
+        say({"idle"});
+    }
+    shell.Unload();
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+/// A terminal of its own, worked by an attendant who says yes to everything. It tells on its output when it is "ready"
+/// (or "closed", when its doors stay shut), and in lines with tabs what she tries and what the windows tell her is
+/// done.
+///
+/// At a line such as "sale,code 120" on its input it does these works in turn for so many seconds, each once at least,
+/// and tells that it is "idle". `firstSerial` numbers what it sells and whom it registers.
+int runTerminal(const QString &programFolder, int firstSerial);
+
+/// The products that every sale takes one line of; the quantity is the sale's serial number.
+inline const QString drilledProducts[] = {"BALA", "CAFÉ"};
+
+/// The name of the customer with a serial number.
+QString drilledCustomer(int serial);
