@@ -105,8 +105,8 @@ void playKills(Drill &drill)
     starts.append(last.millisecondsToReady());
     std::sort(starts.begin(), starts.end());
     drill.damage += ledger.damage();
-    drill.notes.append(QString("%1 terminals were killed; each start after a kill became ready, in %2 ms as a rule and "
-                               "%3 ms at worst; %4 started.")
+    drill.notes.append(QString("%1 terminals were killed. %4 starts were waited for; they took %2 ms as a rule and "
+                               "%3 ms at worst.")
                            .arg(drill.kills)
                            .arg(starts[starts.size() / 2])
                            .arg(starts.last())
