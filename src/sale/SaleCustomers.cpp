@@ -3,6 +3,7 @@
 #include "checkout/SaleDiscount.h"
 #include "customers/CustomerColumns.h"
 #include "data/FirstRow.h"
+#include "platform/base/LongWork.h"
 #include "platform/window/Forms.h"
 #include "platform/window/KeyCodes.h"
 #include "sale/SaleState.h"
@@ -41,6 +42,7 @@ SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleD
 void SaleCustomers::Listar_Clientes()
 {
     FlexGrid &grid = *ui.tab_clientes;
+    const LongWork work;
     OnErrorResumeNext([&] {
         Abrir_Banco_Principal();
         grid.Clear();
@@ -63,6 +65,7 @@ void SaleCustomers::Listar_Clientes()
         const QString nick = "Nick";
         // Another terminal may have registered a customer since the count; the list holds those that were counted.
         for (int row = 1; !rs->Eof() && row <= count; rs->MoveNext(), ++row) {
+            LongWork::goOn();
             grid.setTextMatrix(row, 0, rs->Fields(codigo).text());
             grid.setTextMatrix(row, CustomerColumn::Name, rs->Fields(nome).text());
             grid.setTextMatrix(row, CustomerColumn::Nick, rs->Fields(nick).text());
