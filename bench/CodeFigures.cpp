@@ -1,12 +1,12 @@
 #include "bench/CodeFigures.h"
 
+#include "bench/BareFile.h"
 #include "bench/Figures.h"
 #include "bench/Program.h"
 #include "cafe/Cafe.h"
 #include "codes/frmcodigo_rapido.h"
 #include "platform/base/Machine.h"
 #include "platform/window/Forms.h"
-#include "tests/support/BareFile.h"
 #include "tests/support/Controls.h"
 
 #include <QCheckBox>

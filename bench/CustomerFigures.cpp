@@ -1,5 +1,6 @@
 #include "bench/CustomerFigures.h"
 
+#include "bench/BareFile.h"
 #include "bench/Figures.h"
 #include "bench/Program.h"
 #include "bench/WorkingCopy.h"
@@ -8,7 +9,6 @@
 #include "customers/frmcadastro_clientes.h"
 #include "platform/window/FlexGrid.h"
 #include "platform/window/Forms.h"
-#include "tests/support/BareFile.h"
 #include "tests/support/Controls.h"
 
 #include <QCoreApplication>

@@ -1,5 +1,6 @@
 #include "bench/ProductFigures.h"
 
+#include "bench/BareFile.h"
 #include "bench/Figures.h"
 #include "bench/Program.h"
 #include "bench/WorkingCopy.h"
@@ -12,7 +13,6 @@
 #include "products/ProductPrintouts.h"
 #include "products/ProductTexts.h"
 #include "products/frmcadastro_produtos.h"
-#include "tests/support/BareFile.h"
 #include "tests/support/Controls.h"
 #include "tests/support/FakeMachine.h"
 

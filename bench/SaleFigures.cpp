@@ -1,5 +1,6 @@
 #include "bench/SaleFigures.h"
 
+#include "bench/BareFile.h"
 #include "bench/Figures.h"
 #include "bench/Program.h"
 #include "cafe/Cafe.h"
@@ -7,7 +8,6 @@
 #include "platform/window/Forms.h"
 #include "sale/ProductRules.h"
 #include "sale/frmvenda.h"
-#include "tests/support/BareFile.h"
 #include "tests/support/Controls.h"
 
 #include <QCheckBox>

@@ -4,6 +4,7 @@
 #include "shell/frmprincipal.h"
 #include "tests/support/PdfText.h"
 #include "tour/Desk.h"
+#include "tour/Portrait.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -42,7 +42,7 @@ public:
 
     void scan(const QString &barcode, const QString &quantity)
     {
-        scanBarcode(control<TextBox>(m_window, "txtcod_barra"), barcode);
+        enterText(control<TextBox>(m_window, "txtcod_barra"), barcode);
         add(quantity);
     }
 

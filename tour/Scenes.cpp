@@ -15,6 +15,7 @@
 #include "shell/frmprincipal.h"
 #include "tests/support/Controls.h"
 #include "tests/support/FakeCamera.h"
+#include "tour/Portrait.h"
 
 #include <QCoreApplication>
 #include <QLabel>

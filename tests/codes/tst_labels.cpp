@@ -48,7 +48,9 @@ private slots:
             {"128", {" !\"#$%&'()*+", ",-./01234567", "89:;<=>?@ABC"}, Codigo_128, "CODE-128:%1"},
             {"128", {"DEFGHIJKLMNO", "PQRSTUVWXYZ[", "\\]^_`abcdefg"}, Codigo_128, "CODE-128:%1"},
             {"128", {"hijkmnopqrst", "uvwxyz{|}~", code}, Codigo_128, "CODE-128:%1"},
-            {"39", {"cafe 42", "XYZ-./+", "MNOPQ%$"}, Codigo_39, "CODE-39:%1"},
+            {"39", {"cafe012", "bdghijk", "lmnopqr"}, Codigo_39, "CODE-39:%1"},
+            {"39", {"3456789", "stuvwxy", "Z-. $/+"}, Codigo_39, "CODE-39:%1"},
+            {"39", {"%", "42", "7"}, Codigo_39, "CODE-39:%1"},
             {"2/5", {"123456789012", "0987654321", "60718293045"}, Codigo_2de5, "I2/5:%1"},
             {"Codabar", {"123456789", "0-$:/.+42", "777-777/+"}, Codigo_Codabar, "Codabar:A%1A"},
         };
@@ -61,6 +63,16 @@ private slots:
                 QCOMPARE(readAt(file, placeOf(encode(shown), coluna, linha)), reading.arg(shown));
                 QCOMPARE(pdfLines(file).join(' ').simplified(), shown.simplified());
             }
+    }
+
+    void leavesOutWhatIsNoDigitAndTheLowerCaseL()
+    {
+        // In the check character an L counts as position, not as value: "l" checks as "!", in "lA" the A counts twice.
+        const auto bars = [](QChar character) { return Codigo_128(character).mid(6, 6); };
+        QCOMPARE(Codigo_128("l"), Codigo_128({}).first(6) + bars('!') + Codigo_128({}).last(7));
+        QCOMPARE(Codigo_128("lA").chopped(7).right(6), bars(QChar((104 + 2 * 33) % 103 + ' ')));
+        // The odd digit out has no spaces.
+        QCOMPARE(Codigo_2de5("1A23"), Codigo_2de5("12").chopped(3) + "33111" + "311");
     }
 
     void goesOnWithTheNextSheet()

@@ -16,8 +16,8 @@ private slots:
     {
         ProductDesk desk;
         desk.open();
-        QCOMPARE(desk.row(1), QString("3|ÁGUA|BEBIDAS|A1|-|10|2|2,50|SERRA|Sim|7891200000074"));
-        QCOMPARE(desk.row(3), QString("5|CAFÉ|DIVERSOS|C1|X|-|-|2,50|SERRA|Não|-------------"));
+        QCOMPARE(desk.row(1), QString("3|ÁGUA|BEBIDAS|A1|-|10|2|10|SERRA|Sim|7891200000074"));
+        QCOMPARE(desk.row(3), QString("5|CAFÉ|DIVERSOS|C1|X|-|-|10|SERRA|Não|-------------"));
         QCOMPARE(desk.shown("lbltotal_produtos"), QString("4 produtos cadastrados"));
         desk.cafe.executeAll({"Delete from Produtos", "Delete from Categoria Where Nome <> 'BEBIDAS'"});
         desk.open();
@@ -33,34 +33,27 @@ private slots:
     void findsByTheStartOfTheDescription()
     {
         ProductDesk desk;
-        desk.addProduct(6, "BALÃO");
+        desk.add("Produtos", "Codigo=6, Descrição='BALÃO'");
         desk.open();
-        const auto found = [&](const QString &text) {
-            desk.type("txtdescrição_busca", text);
-            pressKey(desk.at("txtdescrição_busca"), Qt::Key_Return);
-            return desk.list().Row();
-        };
-        QCOMPARE(found("balã"), 3);
+        desk.enter("txtdescrição_busca", "balã");
+        QCOMPARE(desk.list().Row(), 3);
         desk.expectNotice("MsgBox10");
-        QCOMPARE(found("ala"), 3);
+        desk.enter("txtdescrição_busca", "ala");
+        QCOMPARE(desk.list().Row(), 3);
     }
 
     void removesInBothDirections()
     {
         // The list: 3, 4, 1 (reserved), 5, 6.
-        const struct
-        {
-            int from, to;
-            QStringList left;
-        } cases[] = {
-            {1, 2, {"1", "5", "6"}}, {2, 1, {"1", "5", "6"}}, {1, 5, {"1"}}, {3, 3, {"3", "4", "1", "5", "6"}}};
-        for (const auto &[from, to, left] : cases) {
+        for (const auto &[from, to, left] : {std::tuple(1, 2, QStringList{"1", "5", "6"}),
+                                             {2, 1, {"1", "5", "6"}},
+                                             {1, 5, {"1"}},
+                                             {3, 3, {"3", "4", "1", "5", "6"}}}) {
             ProductDesk desk;
-            desk.cafe.execute("Update Produtos Set Descrição='BOLO' Where Codigo=1");
-            desk.addProduct(6, "DOCE");
+            desk.change("Produtos", "Descrição='BOLO' Where Codigo=1");
+            desk.add("Produtos", "Codigo=6, Descrição='DOCE'");
             desk.open();
-            clickCell(desk.list(), from, 1);
-            clickCell(desk.list(), to, 1, Qt::ShiftModifier);
+            desk.select(from, to);
             desk.expectQuestion(from == to ? "MsgBox22" : "MsgBox23", "MsgBox1_2", vbQuestion, vbYes);
             desk.expectNotice(from == to ? "MsgBox24" : "MsgBox25");
             desk.press("cmdremover");
@@ -73,12 +66,12 @@ private slots:
     {
         ProductDesk desk;
         desk.open();
-        for (const char *button : {"cmdcardapio_sim", "cmdcardapio_nao"}) {
-            const bool in = button == QString("cmdcardapio_sim");
-            desk.expectQuestion(in ? "MsgBox12" : "MsgBox11", "MsgBox11_2", vbQuestion, vbYes);
+        for (const auto &[button, question, listed, stored] : {std::tuple("cmdcardapio_sim", "MsgBox12", "Sim", "True"),
+                                                               {"cmdcardapio_nao", "MsgBox11", "Não", "False"}}) {
+            desk.expectQuestion(question, "MsgBox11_2", vbQuestion, vbYes);
             desk.press(button);
-            QCOMPARE(desk.listed(9), QStringList(4, in ? "Sim" : "Não"));
-            QCOMPARE(desk.stored("Cardapio"), QStringList(4, in ? "True" : "False"));
+            QCOMPARE(desk.listed(9), QStringList(4, listed));
+            QCOMPARE(desk.stored("Cardapio"), QStringList(4, stored));
         }
     }
 

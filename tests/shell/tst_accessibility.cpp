@@ -10,7 +10,6 @@
 #include "sale/frmvenda.h"
 #include "shell/frmprincipal.h"
 #include "tests/sale/SaleCounter.h"
-#include "tests/support/FakeCamera.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -204,8 +203,10 @@ private slots:
         QFETCH(const QString, name);
         QFETCH(const QString, language);
         FakeMachine machine;
-        machine.installCamera().see(portrait({320, 240}));
-        TestCafe cafe(QLocale(QLocale::Portuguese, QLocale::Brazil), {.demo = true, .customers = 20, .products = 20});
+        QImage frame(320, 240, QImage::Format_RGB32);
+        frame.fill(Qt::gray);
+        machine.installCamera().see(frame);
+        TestCafe cafe(brazil, {.demo = true, .customers = 20, .products = 20});
         Attendant attendant;
         cafe.setIni("Config_Regional", "Idioma", language);
         cafe.start();
@@ -298,7 +299,7 @@ private slots:
         };
         work({"=ana7", "Return", "=3"});
         QCOMPARE(counter.cafe.value("Select Nome from Links Where Codigo_Acesso='00000000ANA7'"), QString("DAVI LUZ"));
-        QCOMPARE(counter.machine.printouts().size(), 2);
+        QCOMPARE(counter.machine.openedDocuments.size(), 2);
     }
 };
 

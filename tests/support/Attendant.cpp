@@ -6,16 +6,9 @@
 #include <utility>
 
 namespace {
-QString describe(const Attendant::Box &box)
+QString messageBox(const QString &text, int style, const QString &title)
 {
-    static constexpr const char *kinds[] = {"message", "open dialog", "save dialog"};
-    return QString("%1 \"%2\", style %3, title \"%4\"").arg(kinds[box.kind], box.text).arg(box.style).arg(box.title);
-}
-
-/// The title under which a box without one of its own comes.
-QString shownTitle(const QString &title)
-{
-    return title.isEmpty() ? QGuiApplication::applicationDisplayName() : title;
+    return QString("message \"%1\", style %2, title \"%3\"").arg(text, QString::number(style), title);
 }
 } // namespace
 
@@ -32,73 +25,44 @@ Attendant::~Attendant()
 
 void Attendant::expect(const QString &text, int style, const QString &title, int answer, const Action &meanwhile)
 {
-    const Box box{Box::Message, text, style, shownTitle(title)};
+    // A box without a title of its own bears the program's.
+    const QString shownTitle = title.isEmpty() ? QGuiApplication::applicationDisplayName() : title;
+    const QString box = messageBox(text, style, shownTitle);
     const bool asksYesNo = (style & vbYesNo) != 0;
     if (asksYesNo != (answer == vbYes || answer == vbNo))
-        m_sink("No button for this answer: " + describe(box));
+        m_sink("No button for this answer: " + box);
     m_expected.append({box, answer, {}, meanwhile});
-}
-
-void Attendant::expectNotice(const QString &text, const QString &title, const Action &meanwhile)
-{
-    expect(text, vbInformation, title, vbOK, meanwhile);
-}
-
-void Attendant::expectOpenFile(const QString &filter, const QString &answer, const Action &meanwhile)
-{
-    m_expected.append({{Box::OpenFile, filter, 0, {}}, vbOK, answer, meanwhile});
-}
-
-void Attendant::expectSaveFile(const QString &filter, const QString &answer, const Action &meanwhile)
-{
-    m_expected.append({{Box::SaveFile, filter, 0, {}}, vbOK, answer, meanwhile});
 }
 
 void Attendant::finish()
 {
     for (const Expected &missing : std::as_const(m_expected))
-        m_sink("Never came: " + describe(missing.box));
+        m_sink("Never came: " + missing.box);
     m_expected.clear();
 }
 
 int Attendant::message(const QString &text, int style, const QString &title)
 {
-    if (const auto expected = meet({Box::Message, text, style, title}))
-        return expected->answer;
+    if (const int answer = meet(messageBox(text, style, title)).answer)
+        return answer;
     // The answer that does the least harm.
     return (style & vbYesNo) != 0 ? vbNo : vbOK;
 }
 
-QString Attendant::openFile(const FileDialog &dialog)
-{
-    return chooseFile(Box::OpenFile, dialog);
-}
-
-QString Attendant::saveFile(const FileDialog &dialog)
-{
-    return chooseFile(Box::SaveFile, dialog);
-}
-
-QString Attendant::chooseFile(Box::Kind kind, const FileDialog &dialog)
-{
-    const auto expected = meet({kind, dialog.Filter, 0, {}});
-    return expected ? expected->file : QString();
-}
-
-std::optional<Attendant::Expected> Attendant::meet(const Box &box)
+Attendant::Expected Attendant::meet(const QString &box)
 {
     if (m_expected.isEmpty()) {
-        m_sink("Unexpected: " + describe(box));
-        return std::nullopt;
+        m_sink("Unexpected: " + box);
+        return {};
     }
     const Expected expected = m_expected.takeFirst();
-    if (expected.box != box) {
-        m_sink("Expected: " + describe(expected.box) + "\nbut came: " + describe(box));
-        return std::nullopt;
+    if (expected.box == box) {
+        if (expected.meanwhile)
+            expected.meanwhile();
+        return expected;
     }
-    if (expected.meanwhile)
-        expected.meanwhile();
-    return expected;
+    m_sink("Expected: " + expected.box + "\nbut came: " + box);
+    return {};
 }
 
 void Attendant::failTest(const QString &what)

@@ -12,22 +12,6 @@
 class Attendant : public PromptService
 {
 public:
-    /// A box as it was shown. A file dialog has its filter as the text.
-    struct Box
-    {
-        enum Kind
-        {
-            Message,
-            OpenFile,
-            SaveFile
-        };
-        Kind kind = Message;
-        QString text;
-        int style = 0;
-        QString title;
-
-        bool operator==(const Box &) const = default;
-    };
     using FailureSink = std::function<void(const QString &what)>;
     using Action = std::function<void()>;
 
@@ -37,17 +21,26 @@ public:
     /// The next box. `meanwhile` runs while it is open.
     void expect(const QString &text, int style, const QString &title, int answer = vbOK, const Action &meanwhile = {});
     /// A box with one button and the information icon.
-    void expectNotice(const QString &text, const QString &title = {}, const Action &meanwhile = {});
+    void expectNotice(const QString &text, const QString &title = {}, const Action &meanwhile = {})
+    {
+        expect(text, vbInformation, title, vbOK, meanwhile);
+    }
     /// The next file dialog and the file chosen; an empty one cancels it.
-    void expectOpenFile(const QString &filter, const QString &answer, const Action &meanwhile = {});
-    void expectSaveFile(const QString &filter, const QString &answer, const Action &meanwhile = {});
+    void expectOpenFile(const QString &filter, const QString &answer)
+    {
+        m_expected += {"open " + filter, vbOK, answer, {}};
+    }
+    void expectSaveFile(const QString &filter, const QString &answer)
+    {
+        m_expected += {"save " + filter, vbOK, answer, {}};
+    }
 
     /// States that all expected boxes came, and expects nothing more. The end of an attendant does it too.
     void finish();
 
     int message(const QString &text, int style, const QString &title) override;
-    QString openFile(const FileDialog &dialog) override;
-    QString saveFile(const FileDialog &dialog) override;
+    QString openFile(const FileDialog &dialog) override { return meet("open " + dialog.Filter).file; }
+    QString saveFile(const FileDialog &dialog) override { return meet("save " + dialog.Filter).file; }
 
     /// Fails the running test.
     static void failTest(const QString &what);
@@ -55,15 +48,16 @@ public:
 private:
     struct Expected
     {
-        Box box;
-        int answer = vbOK;
-        QString file;
-        Action meanwhile;
+        /// What kind of box it is, and all that it shows.
+        QString box;
+        /// 0 for a box that wasn't expected.
+        int answer = 0;
+        QString file = {};
+        Action meanwhile = {};
     };
 
-    /// What was planned for this box; null when it isn't the box that was expected.
-    std::optional<Expected> meet(const Box &box);
-    QString chooseFile(Box::Kind kind, const FileDialog &dialog);
+    /// What was planned for this box; nothing when it isn't the box that was expected.
+    Expected meet(const QString &box);
 
     FailureSink m_sink;
     QList<Expected> m_expected;

@@ -43,11 +43,6 @@ void click(QWidget &control)
     QTest::mouseClick(&control, Qt::LeftButton, Qt::NoModifier, place);
 }
 
-void click(const QWidget &window, const QString &name)
-{
-    click(control(window, name));
-}
-
 void pressKey(QWidget &control, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     // With Ctrl a keyboard gives no character; QTest would make one up, which boxes that filter keys refuse.
@@ -73,9 +68,9 @@ void replaceText(QWidget &control, const QString &text)
     typeText(control, text);
 }
 
-void scanBarcode(QWidget &control, const QString &digits)
+void enterText(QWidget &control, const QString &text)
 {
-    typeText(control, digits);
+    replaceText(control, text);
     pressKey(control, Qt::Key_Return);
 }
 

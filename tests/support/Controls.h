@@ -22,7 +22,10 @@ Control &control(const QWidget &window, const QString &name)
 }
 
 void click(QWidget &control);
-void click(const QWidget &window, const QString &name);
+inline void click(const QWidget &window, const QString &name)
+{
+    click(control(window, name));
+}
 
 void pressKey(QWidget &control, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
@@ -30,8 +33,8 @@ void pressKey(QWidget &control, Qt::Key key, Qt::KeyboardModifiers modifiers = Q
 void typeText(QWidget &control, const QString &text);
 /// Selects what stands in the box and types over it; an empty text deletes it.
 void replaceText(QWidget &control, const QString &text);
-/// A scanner's way of typing: all digits and Enter in immediate succession.
-void scanBarcode(QWidget &control, const QString &digits);
+/// Types over what stands in the box, and presses Enter.
+void enterText(QWidget &control, const QString &text);
 
 /// Drops the list down and takes an entry.
 void pickEntry(QComboBox &combo, const QString &entry);

@@ -10,17 +10,28 @@ public:
     bool isOpen = false;
 
     /// Sends a frame to whoever looks.
-    void see(const QImage &frame);
+    void see(const QImage &frame)
+    {
+        m_frame = frame;
+        if (m_show)
+            m_show(frame);
+    }
 
-    bool open() override;
-    void startPreview(int milliseconds, const Preview &show) override;
+    bool open() override { return isOpen = works; }
+    void startPreview(int, const Preview &show) override
+    {
+        m_show = show;
+        if (!m_frame.isNull())
+            m_show(m_frame);
+    }
     QImage copyFrame() const override { return m_frame; }
-    void close() override;
+    void close() override
+    {
+        isOpen = false;
+        m_show = nullptr;
+    }
 
 private:
     QImage m_frame;
     Preview m_show;
 };
-
-/// Somebody before a wall, with the shades and the grain of a photo.
-QImage portrait(QSize size, const QColor &shirt = QColor(60, 90, 150));

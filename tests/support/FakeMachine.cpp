@@ -1,32 +1,25 @@
 #include "tests/support/FakeMachine.h"
 
-#include "tests/support/FakeCamera.h"
-
-#include <QDir>
 #include <QFile>
-#include <QtGlobal>
 
 #include <utility>
 
-FakeMachine::FakeMachine() : m_printoutFolder(m_folder.filePath("printouts")), m_saved(Machine::current())
+FakeMachine::FakeMachine() : m_saved(Machine::current())
 {
-    QDir().mkpath(m_printoutFolder);
-
     Machine &machine = Machine::current();
     machine.now = [this] { return clock; };
     machine.sleep = [this](int milliseconds) {
-        sleeps.append(milliseconds);
         clock = clock.addMSecs(milliseconds);
         if (whileAsleep)
             std::exchange(whileAsleep, nullptr)();
     };
-    machine.random = [this] { return random(); };
+    machine.random = [] { return 0.5; };
     machine.playWave = [this](const QString &path) { sounds.append(path); };
-    machine.portDevice = [this](int port) { return portDevices.value(port); };
-    machine.printerNames = [this] { return printerNames; };
-    machine.defaultPrinterName = [this] { return defaultPrinter; };
-    machine.camera = [this] { return camera; };
-    machine.printoutFolder = [this] { return m_printoutFolder; };
+    machine.portDevice = [](int) { return QString(); };
+    machine.printerNames = [] { return QStringList(); };
+    machine.defaultPrinterName = [] { return QString(); };
+    machine.camera = [] { return nullptr; };
+    machine.printoutFolder = [this] { return m_folder.path(); };
     machine.openDocument = [this](const QString &path) { openedDocuments.append(path); };
 }
 
@@ -37,7 +30,8 @@ FakeMachine::~FakeMachine()
 
 FakeCamera &FakeMachine::installCamera()
 {
-    camera = std::make_shared<FakeCamera>();
+    const auto camera = std::make_shared<FakeCamera>();
+    Machine::current().camera = [camera] { return camera; };
     return *camera;
 }
 
@@ -47,21 +41,12 @@ QString FakeMachine::installPort(int port)
     QFile file(device);
     if (!file.open(QIODevice::WriteOnly))
         qFatal("No file for a printer port: %s", qPrintable(device));
-    portDevices.insert(port, device);
+    Machine::current().portDevice = [=](int asked) { return asked == port ? device : QString(); };
     return device;
-}
-
-QStringList FakeMachine::printouts() const
-{
-    QStringList paths;
-    const QDir folder(m_printoutFolder);
-    for (const QString &name : folder.entryList(QDir::Files, QDir::Name))
-        paths.append(folder.filePath(name));
-    return paths;
 }
 
 void FakeMachine::breakPrinter()
 {
     // Below a device file no folder can be made, not even by root.
-    m_printoutFolder = "/dev/null/printouts";
+    Machine::current().printoutFolder = [] { return QString("/dev/null/printouts"); };
 }

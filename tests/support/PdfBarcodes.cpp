@@ -18,27 +18,10 @@ QString dots(double twips)
 QString draw(const QString &path, int page, const QRectF &part, const QTemporaryDir &folder)
 {
     const QString picture = folder.filePath("part");
-    const QString number = QString::number(page);
-    const QStringList arguments{"-png",
-                                "-gray",
-                                "-singlefile",
-                                "-r",
-                                dots(twipsPerInch),
-                                "-f",
-                                number,
-                                "-l",
-                                number,
-                                "-x",
-                                dots(part.x()),
-                                "-y",
-                                dots(part.y()),
-                                "-W",
-                                dots(part.width()),
-                                "-H",
-                                dots(part.height()),
-                                path,
-                                picture};
-    if (QProcess::execute("pdftocairo", arguments) != 0)
+    const QString options = QString("-png -gray -singlefile -f %1 -l %1 -r %2 -x %3 -y %4 -W %5 -H %6")
+                                .arg(QString::number(page), dots(twipsPerInch), dots(part.x()), dots(part.y()),
+                                     dots(part.width()), dots(part.height()));
+    if (QProcess::execute("pdftocairo", options.split(' ') + QStringList{path, picture}) != 0)
         qFatal("pdftocairo cannot draw page %d of %s", page, qPrintable(path));
     return picture + ".png";
 }

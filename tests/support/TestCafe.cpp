@@ -1,6 +1,5 @@
 #include "tests/support/TestCafe.h"
 
-#include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
 #include "configuration/Idiomas.h"
 #include "data/Acesso_BD.h"
@@ -11,24 +10,18 @@
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Forms.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <filesystem>
 #include <utility>
 
 namespace {
-/// A café from which tests take their copies: it is made once for a run, as a new data file takes its time.
+/// A café from which tests take their copies: it is made once for a run, as a new data file takes its time. All
+/// demo cafés of a run are of one size.
 QString sampleFolder(const QLocale &region, const CafeOptions &options)
 {
     static const QTemporaryDir samples;
-    QString folder = samples.filePath(QString("%1-%2-%3-%4-%5-%6")
-                                          .arg(region.name())
-                                          .arg(options.demo)
-                                          .arg(options.customers)
-                                          .arg(options.products)
-                                          .arg(options.sales)
-                                          .arg(options.oti));
+    QString folder = samples.filePath(QString("%1-%2-%3").arg(region.name()).arg(options.demo).arg(options.oti));
     if (!QDir(folder).exists())
         createCafe(folder, options);
     return folder;
@@ -78,37 +71,16 @@ void TestCafe::start()
     Carregar_Idioma();
 }
 
-QString TestCafe::folder() const
+QStringList TestCafe::query(const QString &sql)
 {
-    return m_folder.filePath("cafe");
-}
-
-QString TestCafe::programFolder() const
-{
-    return m_folder.filePath("program");
-}
-
-QList<QStringList> TestCafe::query(const QString &sql)
-{
-    QList<QStringList> rows;
+    QStringList rows;
     for (const RecordsetHandle rs = database().OpenRecordset(sql); !rs->Eof(); rs->MoveNext()) {
         QStringList row;
         for (int field = 0; field < rs->FieldCount(); ++field)
             row.append(rs->Fields(field).text());
-        rows.append(row);
+        rows.append(row.join('|'));
     }
     return rows;
-}
-
-QString TestCafe::value(const QString &sql)
-{
-    const QList<QStringList> rows = query(sql);
-    return rows.isEmpty() ? QString() : rows.first().value(0);
-}
-
-void TestCafe::execute(const QString &sql)
-{
-    database().Execute(sql);
 }
 
 void TestCafe::executeAll(const QStringList &statements)
@@ -117,16 +89,6 @@ void TestCafe::executeAll(const QStringList &statements)
         for (const QString &statement : statements)
             execute(statement);
     });
-}
-
-QString TestCafe::ini(const QString &section, const QString &key) const
-{
-    return Ler_INI(path("config.ini"), section, key);
-}
-
-void TestCafe::setIni(const QString &section, const QString &key, const QString &value)
-{
-    Gravar_INI(path("config.ini"), section, key, value);
 }
 
 QByteArray TestCafe::readFile(const QString &name) const
@@ -142,6 +104,11 @@ void TestCafe::writeFile(const QString &name, const QByteArray &content)
     QFile file(path(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("Cannot write %s", qPrintable(file.fileName()));
+}
+
+QByteArray TestCafe::readGolden(const QString &path) const
+{
+    return QString::fromUtf8(readFile(path)).replace("\n", "\r\n").toLatin1();
 }
 
 Database &TestCafe::database()

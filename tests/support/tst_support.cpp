@@ -9,21 +9,18 @@ class tst_support : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { failures.clear(); }
-
     void noticesWhatIsNotAsExpected()
     {
+        QStringList failures;
         {
-            Attendant attendant(sink());
+            Attendant attendant([&](const QString &what) { failures += what; });
             QCOMPARE(MsgBox("delete?", vbYesNo), int(vbNo));
             QCOMPARE(failures.size(), 1);
-            const auto expectThenShow = [&](const QString &text, int style, const QString &title) {
+            for (const auto &[text, style, title] :
+                 {std::tuple("deleted", 64, "title"), {"saved", 64 + 4, "title"}, {"saved", 64, "another"}}) {
                 attendant.expectNotice("saved", "title");
                 MsgBox(text, style, title);
-            };
-            expectThenShow("deleted", vbInformation, "title");
-            expectThenShow("saved", vbInformation + vbYesNo, "title");
-            expectThenShow("saved", vbInformation, "another");
+            }
             QCOMPARE(failures.size(), 4);
             attendant.expect("sell?", vbYesNo, {}, vbOK);
             QCOMPARE(failures.size(), 5);
@@ -31,14 +28,6 @@ private slots:
         // The last one never came.
         QCOMPARE(failures.size(), 6);
     }
-
-private:
-    Attendant::FailureSink sink()
-    {
-        return [this](const QString &what) { failures.append(what); };
-    }
-
-    QStringList failures;
 };
 
 QTEST_MAIN(tst_support)

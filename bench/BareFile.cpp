@@ -1,4 +1,4 @@
-#include "tests/support/BareFile.h"
+#include "bench/BareFile.h"
 
 #include <sqlcipher/sqlite3.h>
 

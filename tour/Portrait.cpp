@@ -1,38 +1,11 @@
-#include "tests/support/FakeCamera.h"
+#include "tour/Portrait.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QRandomGenerator>
 
 #include <algorithm>
 
-void FakeCamera::see(const QImage &frame)
-{
-    m_frame = frame;
-    if (m_show)
-        m_show(frame);
-}
-
-bool FakeCamera::open()
-{
-    isOpen = works;
-    return works;
-}
-
-void FakeCamera::startPreview(int, const Preview &show)
-{
-    m_show = show;
-    if (!m_frame.isNull())
-        m_show(m_frame);
-}
-
-void FakeCamera::close()
-{
-    isOpen = false;
-    m_show = nullptr;
-}
-
-QImage portrait(QSize size, const QColor &shirt)
+QImage portrait(QSize size)
 {
     QImage image(size, QImage::Format_RGB32);
     QPainter painter(&image);
@@ -49,7 +22,7 @@ QImage portrait(QSize size, const QColor &shirt)
         gradient.setColorAt(1, colour.darker(140));
         return gradient;
     };
-    painter.setBrush(shaded({40, 80}, 45, shirt));
+    painter.setBrush(shaded({40, 80}, 45, QColor(60, 90, 150)));
     painter.drawEllipse(QPointF(50, 108), 38, 36);
     painter.setBrush(shaded({46, 68}, 14, QColor(205, 155, 125)));
     painter.drawRoundedRect(QRectF(43, 58, 14, 20), 6, 6);
