@@ -97,6 +97,27 @@ private slots:
         QCOMPARE(checkCafe(counter.cafe.folder()), QStringList());
     }
 
+    void losesNeitherLineNorStockToAnother()
+    {
+        SaleCounter counter;
+        counter.open();
+        counter.put("BALA");
+        // Between the search for the next number and the insert the clock is asked; the other terminal is faster then.
+        int elsewhere = 0;
+        const auto now = Machine::current().now;
+        Machine::current().now = [&, now] {
+            const QString code = QString::number(++elsewhere);
+            counter.cafe.execute("Insert into Venda_Produtos (Codigo,Nome) values (" + code + ",'ELSEWHERE')");
+            counter.change("Produtos", "Quantidade='5' Where Descrição='BALA'");
+            return now();
+        };
+        counter.sell("10");
+        QVERIFY(elsewhere > 0);
+        QCOMPARE(counter.sold("Nome").count("ANA LIMA"), 1);
+        QCOMPARE(counter.sold("Codigo").size(), elsewhere + 1);
+        QCOMPARE(counter.stock("BALA"), QString("4"));
+    }
+
 private:
     static void start(QProcess &terminal, const SaleCounter &counter, int carts)
     {
