@@ -8,7 +8,7 @@
 
 namespace {
 
-enum Purpose : quint64
+enum SalePurpose : quint64
 {
     Buyer,
     Article,

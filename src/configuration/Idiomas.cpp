@@ -11,7 +11,7 @@
 #include <utility>
 
 namespace {
-constexpr int valueBufferSize = 500; ///< the last place is the terminating zero's
+constexpr int textBufferSize = 500; ///< the last place is the terminating zero's
 constexpr int numberedFiles = 5;
 constexpr int extensionLength = 4;
 
@@ -53,7 +53,7 @@ QString Ler_Idioma(const QString &file, const QString &section, const QString &k
     QString value;
     for (int number = 1; number <= numberedFiles && value.isEmpty(); ++number) {
         const QString numbered = base + QString::number(number) + extension;
-        OnErrorResumeNext([&] { value = GetPrivateProfileString(section, key, {}, valueBufferSize, numbered); });
+        OnErrorResumeNext([&] { value = GetPrivateProfileString(section, key, {}, textBufferSize, numbered); });
     }
     return value.size() > 1 ? value.mid(1, value.size() - 2) : value;
 }

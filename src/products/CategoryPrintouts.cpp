@@ -8,18 +8,13 @@
 #include "reports/ListReport.h"
 
 namespace {
-constexpr int columns = 95;
+constexpr int categoryReportWidth = 95; ///< characters
 constexpr int nameWidth = 80;
-
-QString text(const QString &key)
-{
-    return categoryTexts.text(key);
-}
 
 ListReport reportOf(const FlexGrid &grid, const QString &nameHead, const QString &markHead)
 {
     return {.grid = grid,
-            .columns = columns,
+            .columns = categoryReportWidth,
             .columnHeads = nameHead.leftJustified(nameWidth) + markHead,
             .lines = {{{"", CategoryColumn::Name, nameWidth}, {"", CategoryColumn::Default}}}};
 }
@@ -33,16 +28,17 @@ void imprimirCategorias(const FlexGrid &tab_categorias, const QString &total)
         return categoryTexts.notice("MsgBox9", "MsgBox9_2");
 
     // The mark has no share of anything, but its head has always borne the sign. It stays.
-    PrintedList list{reportOf(tab_categorias, text("DispositivoSaida4"), text("DispositivoSaida5") + "%")};
-    list.documentName = list.heading = text("DispositivoSaida1");
-    list.numberEnd = columns;
+    PrintedList list{reportOf(tab_categorias, categoryTexts.text("DispositivoSaida4"),
+                              categoryTexts.text("DispositivoSaida5") + "%")};
+    list.documentName = list.heading = categoryTexts.text("DispositivoSaida1");
+    list.numberEnd = categoryReportWidth;
     list.linesOfHead = 5;
     list.linesPerEntry = 2;
     list.placedByCounter = true;
     list.close = [&](int counter, Printer &printer) {
         printer.setCurrentY(counter);
-        printer.Print(reportRule(columns));
-        printer.Print(text("DispositivoSaida6") + total);
+        printer.Print(reportRule(categoryReportWidth));
+        printer.Print(categoryTexts.text("DispositivoSaida6") + total);
     };
     printList(list);
 }
@@ -55,11 +51,12 @@ void salvarCategorias(const FlexGrid &tab_categorias, const QString &total)
     if (file.isEmpty())
         return;
 
-    SavedList list{reportOf(tab_categorias, text("DispositivoSaida9"), text("DispositivoSaida10"))};
-    list.heading = QStringList{text("DispositivoSaida7")};
-    list.dateLabel = text("DispositivoSaida8");
-    list.closing = QStringList{reportRule(columns), total};
+    SavedList list{
+        reportOf(tab_categorias, categoryTexts.text("DispositivoSaida9"), categoryTexts.text("DispositivoSaida10"))};
+    list.heading = QStringList{categoryTexts.text("DispositivoSaida7")};
+    list.dateLabel = categoryTexts.text("DispositivoSaida8");
+    list.closing = QStringList{reportRule(categoryReportWidth), total};
     // A file that can't be written is reported as saved too, as its lines fail one by one. That stays.
     saveList(file, list);
-    categoryTexts.noticeText(text("MsgBox17") + text("MsgBox17_2"));
+    categoryTexts.noticeText(categoryTexts.text("MsgBox17") + categoryTexts.text("MsgBox17_2"));
 }

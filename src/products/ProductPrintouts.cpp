@@ -10,38 +10,34 @@
 #include "reports/ListReport.h"
 
 namespace {
-constexpr int columns = 95;
+constexpr int productReportWidth = 95; ///< characters
 // The list never had the last two of its columns: the line that needs them is left out of every block. It stays.
 constexpr int dateColumn = ProductColumn::Count;
 constexpr int timeColumn = ProductColumn::Count + 1;
 
-QString text(const QString &key)
-{
-    return productTexts.text(key);
-}
-
 ListReport reportOf(const FlexGrid &grid, const QString &minimumKey)
 {
     return {.grid = grid,
-            .columns = columns,
-            .lines = {{{text("DispositivoSaida4"), ProductColumn::Description, 32},
-                       {text("DispositivoSaida4_2"), ProductColumn::Code},
-                       {text("DispositivoSaida5"), ProductColumn::Stock, 13},
-                       {text(minimumKey), ProductColumn::MinimumStock}},
+            .columns = productReportWidth,
+            .lines = {{{productTexts.text("DispositivoSaida4"), ProductColumn::Description, 32},
+                       {productTexts.text("DispositivoSaida4_2"), ProductColumn::Code},
+                       {productTexts.text("DispositivoSaida5"), ProductColumn::Stock, 13},
+                       {productTexts.text(minimumKey), ProductColumn::MinimumStock}},
                       // The currency symbol stands before the supplier, not before the price. It stays.
-                      {{text("DispositivoSaida7"), ProductColumn::Price, 26},
-                       {text("DispositivoSaida8") + SimboloMoeda + " ", ProductColumn::Supplier}},
-                      {{text("DispositivoSaida9"), ProductColumn::Barcode, 31},
-                       {text("DispositivoSaida10"), ProductColumn::Category}},
-                      {{text("DispositivoSaida11"), dateColumn, 17}, {text("DispositivoSaida12"), timeColumn}},
-                      {{reportRule(columns)}}}};
+                      {{productTexts.text("DispositivoSaida7"), ProductColumn::Price, 26},
+                       {productTexts.text("DispositivoSaida8") + SimboloMoeda + " ", ProductColumn::Supplier}},
+                      {{productTexts.text("DispositivoSaida9"), ProductColumn::Barcode, 31},
+                       {productTexts.text("DispositivoSaida10"), ProductColumn::Category}},
+                      {{productTexts.text("DispositivoSaida11"), dateColumn, 17},
+                       {productTexts.text("DispositivoSaida12"), timeColumn}},
+                      {{reportRule(productReportWidth)}}}};
 }
 
 void print(const FlexGrid &grid, const QString &total)
 {
     PrintedList list{reportOf(grid, "DispositivoSaida6")};
-    list.documentName = list.heading = text("DispositivoSaida1");
-    list.numberEnd = columns;
+    list.documentName = list.heading = productTexts.text("DispositivoSaida1");
+    list.numberEnd = productReportWidth;
     list.linesPerEntry = 5;
     list.placedByCounter = true;
     list.close = [&](int counter, Printer &printer) {
@@ -50,7 +46,7 @@ void print(const FlexGrid &grid, const QString &total)
         printer.Print(total);
         printer.setCurrentY(lastLine);
         printer.setCurrentX(1);
-        printer.Print(text("DispositivoSaida13"));
+        printer.Print(productTexts.text("DispositivoSaida13"));
     };
     printList(list);
 }
@@ -79,10 +75,10 @@ void salvarProdutos(const FlexGrid &tab_produtos, const QString &total)
         return productTexts.notice("MsgBox28", "MsgBox19_2");
 
     SavedList list{reportOf(tab_produtos, "DispositivoSaida16")};
-    list.heading = QStringList{text("DispositivoSaida14")};
-    list.dateLabel = text("DispositivoSaida15");
+    list.heading = QStringList{productTexts.text("DispositivoSaida14")};
+    list.dateLabel = productTexts.text("DispositivoSaida15");
     list.closing = QStringList{"", "", total};
     // A file that can't be written is reported too, as its lines fail one by one. That stays.
     saveList(file, list);
-    MsgBox(text("MsgBox27") + file, vbInformation, text("MsgBox27_2"));
+    MsgBox(productTexts.text("MsgBox27") + file, vbInformation, productTexts.text("MsgBox27_2"));
 }
