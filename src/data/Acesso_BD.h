@@ -8,7 +8,7 @@ class TextOutput;
 
 /// The program-wide database, opened by its first user and closed only at the end of the program.
 extern DatabaseHandle BancoPrincipal;
-/// The first of the three program-wide recordsets; the windows pass one open query around in it.
+/// The three program-wide recordsets, which the end of the program closes.
 extern RecordsetHandle RecordsetGlobal1;
 extern RecordsetHandle RecordsetGlobal2;
 extern RecordsetHandle RecordsetGlobal3;

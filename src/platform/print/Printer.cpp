@@ -143,13 +143,6 @@ void Printer::EndDoc()
         printTo(device, title, pages);
 }
 
-void Printer::KillDoc()
-{
-    m_pages.clear();
-    m_documentName.clear();
-    m_currentX = m_currentY = 0;
-}
-
 QPointF Printer::toTwips(QPointF place) const
 {
     if (m_scaleMode == ScaleMode::Characters)

@@ -47,8 +47,6 @@ public:
     int PageHeight() const { return m_pageHeight; }
     void setPageSize(int widthTwips, int heightTwips);
 
-    double CurrentX() const { return m_currentX; }
-    double CurrentY() const { return m_currentY; }
     void setCurrentX(double x) { m_currentX = x; }
     void setCurrentY(double y) { m_currentY = y; }
 
@@ -62,8 +60,6 @@ public:
     void NewPage();
     /// Prints what was recorded. Raises PrinterError when the device refuses; the record is gone in any case.
     void EndDoc();
-    /// Forgets what was recorded.
-    void KillDoc();
 
 private:
     QPointF toTwips(QPointF place) const;

@@ -81,12 +81,6 @@ void FlexGrid::setRow(int row)
     select({row, row, Col(), Col()});
 }
 
-void FlexGrid::setRowSel(int row)
-{
-    requireRow(row);
-    select({Row(), row, Col(), ColSel()});
-}
-
 void FlexGrid::setCol(int col)
 {
     requireCol(col);
@@ -97,11 +91,6 @@ void FlexGrid::setColSel(int col)
 {
     requireCol(col);
     select({Row(), RowSel(), Col(), col});
-}
-
-int FlexGrid::TopRow() const
-{
-    return std::max(rowAt(0), 0) + 1;
 }
 
 void FlexGrid::setTopRow(int row)

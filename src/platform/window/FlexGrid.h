@@ -33,13 +33,11 @@ public:
     /// `CellPicture` to a heading, and no row looks selected.
     void setRow(int row);
     int RowSel() const { return m_selection.rowSel; }
-    void setRowSel(int row);
     int Col() const { return m_selection.col; }
     void setCol(int col);
     int ColSel() const { return m_selection.colSel; }
     void setColSel(int col);
 
-    int TopRow() const;
     void setTopRow(int row);
     /// Whether any part of the row is in view.
     bool RowIsVisible(int row) const;
@@ -70,12 +68,8 @@ public:
     /// The headings and the last row beside them can't be removed.
     void RemoveItem(int row);
 
-    /// Row and column of the last click, by mouse or keyboard.
-    int MouseRow() const { return m_mouseRow; }
-    int MouseCol() const { return m_mouseCol; }
-
 signals:
-    /// The attendant clicked a cell or pressed Space in the list, or clicked a heading (`MouseRow` 0). A heading gives
+    /// The attendant clicked a cell or pressed Space in the list, or clicked a heading. A heading gives
     /// its column to `Col` and leaves the rows as they are.
     void Click();
     /// The selection changed, by the attendant or by the program. Rows and columns that come or go tell nothing.
@@ -113,7 +107,5 @@ private:
     FlexGridModel *m_model;
     Selection m_selection;
     QString m_formatString;
-    int m_mouseRow = 0;
-    int m_mouseCol = 0;
     bool m_pressed = false;
 };

@@ -40,11 +40,8 @@ void FlexGrid::keyPressEvent(QKeyEvent *event)
         break;
     case Qt::Key_Space:
         // Whoever works without a mouse picks the row with it.
-        if (Row() > 0) {
-            m_mouseRow = Row();
-            m_mouseCol = Col();
+        if (Row() > 0)
             emit Click();
-        }
         return;
     default:
         // Enter and all other keys belong to the window.
@@ -62,13 +59,13 @@ void FlexGrid::mousePressEvent(QMouseEvent *event)
     m_pressed = event->button() == Qt::LeftButton && row > 0;
     if (!m_pressed)
         return;
-    const int col = columnAt(place.x());
-    m_mouseRow = row;
-    m_mouseCol = col < 0 ? Cols() - 1 : col;
+    // Beside the last column the click means it.
+    const int column = columnAt(place.x());
+    const int col = column < 0 ? Cols() - 1 : column;
     if (event->modifiers() & Qt::ShiftModifier && Row() > 0)
-        select({Row(), m_mouseRow, Col(), m_mouseCol});
+        select({Row(), row, Col(), col});
     else
-        select({m_mouseRow, m_mouseRow, m_mouseCol, m_mouseCol});
+        select({row, row, col, col});
 }
 
 void FlexGrid::mouseMoveEvent(QMouseEvent *event)
@@ -122,8 +119,6 @@ void FlexGrid::moveTo(int row, int col, bool extend)
 
 void FlexGrid::headingClicked(int col)
 {
-    m_mouseRow = 0;
-    m_mouseCol = col;
     // After a picture was put on a heading the current row is 0; a window reads the column only in a row of its list.
     const int row = std::max(Row(), std::min(Rows() - 1, 1));
     select({row, std::max(RowSel(), row), col, col});
