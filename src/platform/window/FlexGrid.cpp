@@ -164,7 +164,9 @@ void FlexGrid::setFormatString(const QString &format)
         if (mark == '<' || mark == '^' || mark == '>')
             heading.remove(0, 1);
         m_model->setText(0, col, heading);
-        setColumnWidth(col, metrics.horizontalAdvance(heading) + 2 * cellMargin);
+        // Blanks head a column of numbers, and are narrower than those.
+        const int least = heading.trimmed().isEmpty() ? metrics.horizontalAdvance("000000") : 0;
+        setColumnWidth(col, std::max(metrics.horizontalAdvance(heading), least) + 2 * cellMargin);
     }
     repaintTexts();
 }
