@@ -127,11 +127,18 @@ void playCrowd(Drill &drill)
     Ledger ledger(cafe);
     std::vector<std::unique_ptr<TerminalProcess>> terminals;
     for (std::size_t i = 0; i < crowd; ++i)
-        terminals.push_back(std::make_unique<TerminalProcess>(
-            cafe, drill.folder.filePath(QString("crowd-program%1").arg(i)), drill.nextSerials()));
+        terminals.push_back(
+            std::make_unique<TerminalProcess>(cafe, drill.folder.filePath(QString("crowd-program%1").arg(i)),
+                                              drill.nextSerials(), i % 2 == 1 ? drill.otherEngine : QString()));
     for (const auto &terminal : terminals)
         if (!terminal->becomesReady())
             drill.damage.append("crowd: a terminal does not start");
+    if (!drill.otherEngine.isEmpty()) {
+        const auto others = std::count_if(terminals.begin(), terminals.end(), [&](const auto &terminal) {
+            return terminal->hasLoadedFrom(drill.otherEngine);
+        });
+        drill.notes.append(QString("%1 of the four terminals worked with %2.").arg(others).arg(drill.otherEngine));
+    }
     for (const auto &terminal : terminals)
         terminal->order(QString("sale,code,edit %1").arg(drill.seconds));
     for (const auto &terminal : terminals) {

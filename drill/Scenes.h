@@ -21,6 +21,8 @@ struct Drill
     int kills = 200;
     int seconds = 120;
     unsigned seed = 0;
+    /// Folder of another version of the engine's library; every second of the four terminals works with it.
+    QString otherEngine;
     /// Where cafés and pointer files are laid out.
     QDir folder;
     std::mt19937 chance;

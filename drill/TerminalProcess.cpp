@@ -5,16 +5,23 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 
 namespace {
 constexpr int longestStart = 60'000;
 constexpr int longestEnd = 60'000;
 } // namespace
 
-TerminalProcess::TerminalProcess(const QString &cafe, const QString &programFolder, int firstSerial)
+TerminalProcess::TerminalProcess(const QString &cafe, const QString &programFolder, int firstSerial,
+                                 const QString &libraries)
 {
     QDir().mkpath(programFolder);
     Gravar_INI(programFolder + "/ConfigIni.txt", "Configuracoes", "BD", cafe + "/Morvelane.mdb");
+    if (!libraries.isEmpty()) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LD_LIBRARY_PATH", libraries);
+        m_process.setProcessEnvironment(environment);
+    }
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(QCoreApplication::applicationFilePath(), {"terminal", programFolder, QString::number(firstSerial)});
     m_process.waitForStarted();
@@ -37,6 +44,12 @@ bool TerminalProcess::becomesReady()
 bool TerminalProcess::settles()
 {
     return !readUpTo({"ready", "closed"}, longestStart).isEmpty();
+}
+
+bool TerminalProcess::hasLoadedFrom(const QString &libraries) const
+{
+    QFile maps(QString("/proc/%1/maps").arg(m_process.processId()));
+    return maps.open(QIODevice::ReadOnly) && maps.readAll().contains(QFile::encodeName(libraries + '/'));
 }
 
 void TerminalProcess::order(const QString &works)

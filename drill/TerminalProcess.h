@@ -8,8 +8,9 @@
 class TerminalProcess
 {
 public:
-    /// Works with its own pointer file, which lies in `programFolder`.
-    TerminalProcess(const QString &cafe, const QString &programFolder, int firstSerial);
+    /// Works with its own pointer file, which lies in `programFolder`, and takes libraries from a folder before the
+    /// system's when one is given.
+    TerminalProcess(const QString &cafe, const QString &programFolder, int firstSerial, const QString &libraries = {});
     ~TerminalProcess();
 
     /// Waits until the doors are open. False when they stay shut, or when the process does not come so far.
@@ -28,6 +29,8 @@ public:
     /// What was tried and told so far, each time only what is new.
     QStringList takeJournal();
     int millisecondsToReady() const { return m_readyAfter; }
+    /// Whether the process has loaded a library out of this folder.
+    bool hasLoadedFrom(const QString &libraries) const;
 
 private:
     QString readUpTo(const QStringList &signs, int milliseconds);

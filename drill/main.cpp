@@ -78,10 +78,12 @@ int main(int argc, char **argv)
     parser.setApplicationDescription(
         "Kills terminals, takes their café away and fills its disk, and tells what was lost.");
     parser.addHelpOption();
-    parser.addOptions({{"short", "A quick drill: 12 kills, 10 seconds of four terminals."},
-                       {"kills", "How many terminals are killed (200).", "count"},
-                       {"seconds", "How long four terminals work (120).", "count"},
-                       {"seed", "Plays the same moments again.", "number"}});
+    parser.addOptions(
+        {{"short", "A quick drill: 12 kills, 10 seconds of four terminals."},
+         {"kills", "How many terminals are killed (200).", "count"},
+         {"seconds", "How long four terminals work (120).", "count"},
+         {"seed", "Plays the same moments again.", "number"},
+         {"engine", "Every second of the four terminals takes its libsqlcipher.so.0 from there.", "folder"}});
     parser.process(application);
     Drill drill;
     const auto number = [&](const char *option, int otherwise) {
@@ -90,6 +92,8 @@ int main(int argc, char **argv)
     drill.kills = number("kills", parser.isSet("short") ? 12 : 200);
     drill.seconds = number("seconds", parser.isSet("short") ? 10 : 120);
     drill.seed = static_cast<unsigned>(number("seed", static_cast<int>(std::random_device()() % 1'000'000)));
+    if (parser.isSet("engine"))
+        drill.otherEngine = QDir(parser.value("engine")).canonicalPath();
     RegionalSettings::use(QLocale(QLocale::Portuguese, QLocale::Brazil));
     try {
         return play(drill, ownMounts);
