@@ -127,7 +127,8 @@ double ratioOfRename(Desk &desk, BareFile &file)
     const std::string nick = desk.grid().TextMatrix(1, CustomerColumn::Nick).toStdString();
     const std::string otherName = "QUEM SE CHAMAVA " + name.substr(0, 8);
     std::vector<std::string> tables(std::begin(followingTables), std::end(followingTables));
-    tables.insert(tables.end(), {"Venda_Codigos", "Venda_Produtos"});
+    tables.emplace_back("Venda_Codigos");
+    tables.emplace_back("Venda_Produtos");
     return ratioOfMedians(
         9, [&] { return desk.secondsOfRename(QString::fromStdString(otherName), "OUTRO NICK"); },
         [&] {

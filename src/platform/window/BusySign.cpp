@@ -58,11 +58,12 @@ void showBusySign(bool working)
         delete strip;
         return;
     }
-    if (!strip) {
+    BusyStrip *shown = strip;
+    if (!shown) {
         QWidget *window = windowInFront();
         if (!window)
             return;
-        strip = new BusyStrip(window);
+        strip = shown = new BusyStrip(window);
     }
-    strip->goOn();
+    shown->goOn();
 }
