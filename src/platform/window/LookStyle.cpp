@@ -72,8 +72,8 @@ void drawBox(QPainter *painter, const QRect &rect, qreal rounding, const QColor 
 void drawField(QPainter *painter, const QStyleOption *option, const QColor &fill, qreal rounding = radius)
 {
     const bool focused = option->state & QStyle::State_HasFocus && option->state & QStyle::State_Enabled;
-    drawBox(painter, option->rect, rounding, fill,
-            option->palette.color(focused ? QPalette::Highlight : QPalette::Dark), focused ? 2 : 1);
+    drawBox(painter, option->rect, rounding, fill, option->palette.color(focused ? QPalette::Link : QPalette::Dark),
+            focused ? 2 : 1);
 }
 
 /// A card's state shows in its colour, in a stripe at its left, and in a picture for those who don't see colours.
@@ -175,15 +175,22 @@ void drawButton(QPainter *painter, const QStyleOption *option, const QWidget *wi
     const bool primary = isPrimary(option, widget);
     const QColor fill = buttonColour(option, primary);
     const bool focused = enabled && option->state & QStyle::State_HasFocus;
-    const QColor accent = option->palette.color(QPalette::Highlight);
     drawBox(painter, option->rect, radius, fill,
-            focused              ? accent
+            focused              ? option->palette.color(QPalette::Link)
             : primary && enabled ? fill
                                  : option->palette.color(QPalette::Dark),
             focused ? 2 : 1);
     if (focused && primary)
         drawBox(painter, option->rect.adjusted(2, 2, -2, -2), radius - 2, fill,
                 option->palette.color(QPalette::HighlightedText));
+}
+
+/// Flat, as the base style's handle can hardly be told from its groove.
+void drawScrollBar(QPainter *painter, const QStyleOption *option, const QRect &handle)
+{
+    const QColor colour = option->palette.color(QPalette::Dark);
+    painter->fillRect(option->rect, option->palette.color(QPalette::Window));
+    drawBox(painter, handle.adjusted(3, 3, -3, -3), radius, colour, colour);
 }
 
 void drawChevron(QPainter *painter, const QRect &rect, const QColor &colour)
@@ -372,7 +379,8 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
                       qobject_cast<const QPlainTextEdit *>(widget) ? radius : listRadius);
             return;
         }
-        break;
+        drawBox(painter, option->rect, 0, Qt::transparent, option->palette.color(QPalette::Mid));
+        return;
     case PE_IndicatorCheckBox:
     case PE_IndicatorRadioButton:
         drawIndicator(painter, option, element == PE_IndicatorRadioButton);
@@ -426,6 +434,10 @@ void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
                   combo->editable ? option->palette.color(QPalette::Base) : buttonColour(option, false));
         drawChevron(painter, proxy()->subControlRect(control, option, SC_ComboBoxArrow, widget),
                     option->palette.color(QPalette::ButtonText));
+        return;
+    }
+    if (control == CC_ScrollBar) {
+        drawScrollBar(painter, option, proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget));
         return;
     }
     painter->save();
