@@ -41,6 +41,14 @@ FlexGrid::FlexGrid(QWidget *parent) : QTableView(parent), m_model(new FlexGridMo
     fitRowsToFont();
 }
 
+QSize FlexGrid::minimumSizeHint() const
+{
+    // A list of fewer rows in view is no list: the window scrolls sooner than its lists shrink further.
+    constexpr int leastRows = 4;
+    const int height = horizontalHeader()->sizeHint().height() + leastRows * verticalHeader()->defaultSectionSize();
+    return QTableView::minimumSizeHint().expandedTo({0, height + 2 * frameWidth()});
+}
+
 int FlexGrid::Rows() const
 {
     return m_model->Rows();

@@ -22,6 +22,8 @@ class FlexGrid : public QTableView
 public:
     explicit FlexGrid(QWidget *parent = nullptr);
 
+    QSize minimumSizeHint() const override;
+
     int Rows() const;
     /// Adds empty rows at the end or removes the last ones; 1 leaves the headings alone.
     void setRows(int rows);

@@ -15,6 +15,11 @@
 
 #include <algorithm>
 
+namespace {
+/// What stays in view around the control that has the keyboard.
+constexpr int focusMargin = 48;
+} // namespace
+
 Form::Form()
 {
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -62,18 +67,20 @@ void Form::fitToScreen()
     if (layout()->hasHeightForWidth())
         least.setHeight(std::max(least.height(), layout()->totalMinimumHeightForWidth(size.width())));
     if (least.width() > room.width() || least.height() > room.height())
-        scrollContents();
+        scrollContents(least.width() > room.width());
     if (size != wanted)
         resize(size);
 }
 
 /// Whatever does not fit the screen can be reached by scrolling, and comes into view when it takes the keyboard.
-void Form::scrollContents()
+void Form::scrollContents(bool sideways)
 {
     QLayout *contents = layout();
     m_page = new QWidget;
     // Lists are as high as they like to be, as the page has no end.
     m_page->setMinimumHeight(contents->totalSizeHint().height());
+    if (sideways)
+        m_page->setMinimumWidth(contents->totalSizeHint().width());
     m_page->setLayout(contents);
     setMinimumSize(0, 0);
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
@@ -88,7 +95,7 @@ void Form::scrollContents()
     layout->addWidget(scroll);
     connect(qApp, &QApplication::focusChanged, scroll, [this, scroll](QWidget *, QWidget *now) {
         if (now && m_page->isAncestorOf(now))
-            scroll->ensureWidgetVisible(now);
+            scroll->ensureWidgetVisible(now, focusMargin, focusMargin);
     });
 }
 

@@ -46,7 +46,7 @@ private:
     friend class Forms;
     void Load();
     void fitToScreen();
-    void scrollContents();
+    void scrollContents(bool sideways);
 
     bool m_loaded = false;
     /// Holds the contents of a window that is larger than the screen.
