@@ -95,6 +95,7 @@ void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
     if (row == 0) {
         row = grid.Rows();
         grid.setRows(row + 1);
+        grid.setTopRow(row);
     }
     grid.setTextMatrix(row, CartColumn::Description, descricao.toUpper());
     grid.setTextMatrix(row, CartColumn::Quantity, Cstr(quantidade));

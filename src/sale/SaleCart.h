@@ -25,11 +25,12 @@ class SaleCart : public QObject
 public:
     SaleCart(Ui::frmvenda &window, SaleState &state, SaleDiscount &discount, SaleProducts &products, QObject *parent);
 
+    /// Puts the chosen product into the cart, with the quantity shown.
+    void cmdadicionar_Click();
     void Adicionar_Produto(const QString &descricao, double quantidade);
     void showTotal();
 
 private:
-    void cmdadicionar_Click();
     void cmdexcluir_Click();
     int rowOf(const QString &descricao) const;
     void refuse(const QString &descricao, double quantidade, const QString &stock);

@@ -74,6 +74,21 @@ void SaleCustomers::Listar_Clientes()
     });
 }
 
+void SaleCustomers::refill()
+{
+    const QString buyer = m_state.Nome_Cliente;
+    Listar_Clientes();
+    FlexGrid &grid = *ui.tab_clientes;
+    for (int row = 1; row < grid.Rows(); ++row) {
+        if (grid.TextMatrix(row, CustomerColumn::Name) == buyer) {
+            grid.setRow(row);
+            break;
+        }
+    }
+    tab_clientes_Click();
+    tab_clientes_SelChange();
+}
+
 bool SaleCustomers::Buscar_Cliente(const QString &termo, int inicio)
 {
     return selectCustomer(*ui.tab_clientes, termo, inicio, CustomerColumn::Name, [this] { tab_clientes_Click(); });

@@ -73,20 +73,32 @@ void SaleProducts::Listar_Produtos()
     });
 }
 
-bool SaleProducts::Buscar_Produtos(const QString &texto)
+int SaleProducts::entryOf(const QString &texto) const
 {
-    if (texto.isEmpty())
-        return true;
     const QString description = texto.toUpper();
     const QString code = "(" + description;
     for (int index = 0; index < ui.cmbprodutos->count(); ++index) {
         const QString entry = ui.cmbprodutos->itemText(index).toUpper();
-        if (entry.startsWith(description) || entry.startsWith(code)) {
-            ui.cmbprodutos->setCurrentIndex(index);
-            return true;
-        }
+        if (entry.startsWith(description) || entry.startsWith(code))
+            return index;
     }
-    return false;
+    return -1;
+}
+
+bool SaleProducts::Buscar_Produtos(const QString &texto)
+{
+    if (texto.isEmpty())
+        return true;
+    const int index = entryOf(texto);
+    if (index >= 0)
+        ui.cmbprodutos->setCurrentIndex(index);
+    return index >= 0;
+}
+
+bool SaleProducts::waitsForQuantity() const
+{
+    const QString text = ui.cmbprodutos->currentText();
+    return ui.txtquantidade->hasFocus() && !text.isEmpty() && entryOf(text) >= 0;
 }
 
 void SaleProducts::cmbprodutos_Click()
@@ -150,9 +162,23 @@ void SaleProducts::txtcod_barra_Enter()
     const QString entry = Retornar_Descrição(ui.txtcod_barra->text());
     if (entry.isEmpty()) {
         saleTexts.notice("MsgBox2");
+        // What comes next replaces the unknown code.
+        ui.txtcod_barra->selectAll();
         return;
     }
     ui.cmbprodutos->setCurrentText(entry);
     cmbprodutos_Click();
     ui.txtquantidade->setFocus();
+}
+
+void SaleProducts::lookUp(const QString &cod_barra)
+{
+    ui.txtcod_barra->setText(cod_barra);
+    txtcod_barra_Enter();
+}
+
+void SaleProducts::offerCode(const QString &cod_barra)
+{
+    ui.txtcod_barra->setText(cod_barra);
+    ui.txtcod_barra->selectAll();
 }

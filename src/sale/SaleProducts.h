@@ -31,7 +31,16 @@ public:
     /// What a pick in the combo does.
     void cmbprodutos_Click();
 
+    /// Whether a product is chosen and the keyboard stands in its quantity.
+    bool waitsForQuantity() const;
+    /// Looks a barcode up, as if it had been typed into its box and ended by Enter.
+    void lookUp(const QString &cod_barra);
+    /// Shows a barcode, selected and with the keyboard, for the attendant to take it or to scan over it.
+    void offerCode(const QString &cod_barra);
+
 private:
+    /// Index of the first entry that begins with a text, or whose internal code does; -1 for none.
+    int entryOf(const QString &texto) const;
     void txtcod_barra_Enter();
 
     Ui::frmvenda &ui;

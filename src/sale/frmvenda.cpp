@@ -19,6 +19,7 @@
 #include "sale/SaleConfirmation.h"
 #include "sale/SaleCustomers.h"
 #include "sale/SaleProducts.h"
+#include "sale/SaleScans.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
 
@@ -33,6 +34,7 @@ frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
     m_products = new SaleProducts(*ui, *m_discount, this);
     m_cart = new SaleCart(*ui, m_state, *m_discount, *m_products, this);
     m_confirmation = std::make_unique<SaleConfirmation>(*this, *ui, m_state, *m_discount, *m_products, *m_cart);
+    new SaleScans(*this, *m_discount, *m_products, *m_cart);
 
     connect(ui->lbltotal, &Label::Change, this, &frmvenda::lbltotal_Change);
     connect(ui->lbltotal_final, &Label::Change, this, &frmvenda::lbltotal_final_Change);
@@ -41,9 +43,9 @@ frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
     opensReceiptOptions(ui->lblconfigurar_recibo, ui->chkrecibo);
     connect(ui->cmdfinalizar, &QPushButton::clicked, this, [this] { m_confirmation->cmdfinalizar_Click(); });
     connect(ui->cmdcadastro_clientes, &QPushButton::clicked, this,
-            [this] { visit<frmcadastro_clientes>(&frmvenda::Listar_Clientes); });
+            [this] { visit<frmcadastro_clientes>([this] { m_customers->refill(); }); });
     connect(ui->cmdcadastro_produtos, &QPushButton::clicked, this,
-            [this] { visit<frmcadastro_produtos>(&frmvenda::Listar_Produtos); });
+            [this] { visit<frmcadastro_produtos>([this] { Listar_Produtos(); }); });
     connect(ui->cmdcancelar, &QPushButton::clicked, this, [this] {
         if (!m_discount->Bloqueio_Desconto)
             Unload();
@@ -55,7 +57,10 @@ frmvenda::~frmvenda() = default;
 void frmvenda::connectPayment()
 {
     connect(ui->txtvalor_pago, &TextBox::Change, this, &frmvenda::txtvalor_pago_Change);
-    connect(ui->txtvalor_pago, &TextBox::GotFocus, this, &frmvenda::showChange);
+    connect(ui->txtvalor_pago, &TextBox::GotFocus, this, [this] {
+        showChange();
+        selectFilledAmount();
+    });
     connect(ui->txtvalor_pago, &TextBox::KeyPress, this, [this](int &KeyAscii) {
         if (m_discount->Bloqueio_Desconto)
             return;
@@ -68,7 +73,9 @@ void frmvenda::connectPayment()
         m_state.Debito_Venda = 0;
         ui->txtvalor_pago->setEnabled(true);
         ui->txtvalor_pago->setFocus();
-        ui->txtvalor_pago->setText(Cstr(m_discount->Total_Final));
+        m_filledAmount = Cstr(m_discount->Total_Final);
+        ui->txtvalor_pago->setText(m_filledAmount);
+        selectFilledAmount();
     });
     connect(ui->optnão_pago, &QRadioButton::clicked, this, [this] {
         m_state.Debito_Venda = yesFlag;
@@ -164,6 +171,13 @@ void frmvenda::txtvalor_pago_Change()
     showChange();
 }
 
+/// What is typed replaces the amount that the program proposed.
+void frmvenda::selectFilledAmount()
+{
+    if (ui->txtvalor_pago->text() == m_filledAmount)
+        ui->txtvalor_pago->selectAll();
+}
+
 void frmvenda::showChange()
 {
     if (m_discount->Bloqueio_Desconto)
@@ -176,13 +190,13 @@ void frmvenda::showChange()
 }
 
 template <typename Window>
-void frmvenda::visit(void (frmvenda::*refill)())
+void frmvenda::visit(const std::function<void()> &refill)
 {
     DoEvents();
     showAndWait(Forms::use<Window>());
     // This window may have gone with the program while it waited.
     if (!isLoaded())
         return;
-    (this->*refill)();
+    refill();
     DoEvents();
 }

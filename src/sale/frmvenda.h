@@ -3,6 +3,7 @@
 #include "platform/window/Form.h"
 #include "sale/SaleState.h"
 
+#include <functional>
 #include <memory>
 
 class SaleCart;
@@ -42,12 +43,15 @@ private:
     void lbltotal_final_Change();
     void txtvalor_pago_Change();
     void showChange();
+    void selectFilledAmount();
     /// Waits until a window of the registrations is closed and takes over what is new there.
     template <typename Window>
-    void visit(void (frmvenda::*refill)());
+    void visit(const std::function<void()> &refill);
 
     std::unique_ptr<Ui::frmvenda> ui;
     SaleState m_state;
+    /// The amount that a press of "Pago" put into its box.
+    QString m_filledAmount;
     SaleDiscount *m_discount;
     SaleCustomers *m_customers;
     SaleProducts *m_products;

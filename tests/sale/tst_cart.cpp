@@ -1,4 +1,5 @@
 #include "tests/sale/SaleCounter.h"
+#include "tests/support/KeyQueue.h"
 
 #include <QTest>
 
@@ -66,6 +67,41 @@ private slots:
         counter.sell("10", "10,00, paga por\n------");
         QCOMPARE(counter.sold("Nome,Nick,Avulsa,Debito"),
                  (QStringList{"ANA LIMA|ANINHA|False|True", "------|------|True|False", "------|------|False|False"}));
+    }
+
+    void keepsInView()
+    {
+        SaleCounter counter;
+        for (int code = 20; code < 60; ++code)
+            counter.add("Produtos", QString("Codigo=%1, Descrição='P%1'").arg(code));
+        for (const QString name : {"BIA", "CAIO", "DANI"})
+            counter.add("Clientes", "Codigo=" + QString::number(name.front().unicode()) + ", Nome='" + name + "'");
+        counter.open();
+        for (int code = 20; code < 60; ++code)
+            counter.put("P" + QString::number(code));
+        QVERIFY(counter.list().RowIsVisible(40));
+        // What "Pago" proposes is typed over, also when the keyboard comes back to it.
+        counter.press("optpago");
+        QCOMPARE(counter.shown("txtvalor_pago"), QString("400"));
+        counter.at("txtcod_barra").setFocus();
+        counter.at("txtvalor_pago").setFocus();
+        KeyQueue().type("450", 200).arrive();
+        QTRY_COMPARE(counter.shown("lbltroco"), QString("R$ 50,00"));
+
+        // Another terminal registers and removes while this one visits the customers.
+        const auto visit = [&](const QString &meanwhile) {
+            counter.machine.whileAsleep = [&] {
+                counter.cafe.execute(meanwhile);
+                loadedWindow("frmcadastro_clientes").Unload();
+            };
+            counter.press("cmdcadastro_clientes");
+            const auto &grid = counter.at<FlexGrid>("tab_clientes");
+            return grid.TextMatrix(grid.Row(), 1) + '|' + counter.shown("txtnome");
+        };
+        clickCell(counter.at<FlexGrid>("tab_clientes"), 3, 1);
+        QCOMPARE(visit("Delete from Clientes Where Nome='BIA'"), QString("CAIO|CAIO"));
+        QCOMPARE(visit("Delete from Clientes Where Nome='CAIO'"), QString("ANA LIMA|ANA LIMA"));
+        counter.sell("450", "400,00, paga por\nANA LIMA");
     }
 
     void picksRules()

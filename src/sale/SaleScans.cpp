@@ -1,0 +1,51 @@
+#include "sale/SaleScans.h"
+
+#include "checkout/SaleDiscount.h"
+#include "platform/window/BarcodeScanner.h"
+#include "platform/window/Form.h"
+#include "sale/SaleCart.h"
+#include "sale/SaleProducts.h"
+
+#include <QApplication>
+
+namespace {
+constexpr int boxCheckMilliseconds = 20;
+
+bool isBoxOpen()
+{
+    return QApplication::activeModalWidget() != nullptr;
+}
+} // namespace
+
+SaleScans::SaleScans(Form &window, const SaleDiscount &discount, SaleProducts &products, SaleCart &cart)
+    : QObject(&window), m_window(window), m_discount(discount), m_products(products), m_cart(cart)
+{
+    // While a sale is being stored the window takes no entries, a scanner's neither.
+    auto *scanner = new BarcodeScanner(window, [this] { return isBoxOpen() || !m_discount.Bloqueio_Desconto; });
+    connect(scanner, &BarcodeScanner::Scanned, this, &SaleScans::take);
+    connect(&m_later, &QTimer::timeout, this, &SaleScans::offerLeftCode);
+}
+
+void SaleScans::take(const QString &code)
+{
+    if (isBoxOpen()) {
+        m_leftCode = code;
+        m_later.start(boxCheckMilliseconds);
+        return;
+    }
+    while (QWidget *list = QApplication::activePopupWidget())
+        list->close();
+    if (m_products.waitsForQuantity())
+        m_cart.cmdadicionar_Click();
+    if (m_window.isLoaded())
+        m_products.lookUp(code);
+}
+
+void SaleScans::offerLeftCode()
+{
+    // The routine that asked goes on behind its box, perhaps to another one.
+    if (isBoxOpen() || m_discount.Bloqueio_Desconto)
+        return;
+    m_later.stop();
+    m_products.offerCode(m_leftCode);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+class Form;
+class SaleCart;
+class SaleDiscount;
+class SaleProducts;
+
+/// What a barcode scan does in the sale, wherever the keyboard stands: the product that waits for its quantity goes
+/// into the cart, then the new one is looked up. A scan into a question or a notice answers nothing; its code waits in
+/// the barcode box afterwards, the latest one when there were several.
+class SaleScans : public QObject
+{
+    Q_OBJECT
+
+public:
+    SaleScans(Form &window, const SaleDiscount &discount, SaleProducts &products, SaleCart &cart);
+
+private:
+    void take(const QString &code);
+    void offerLeftCode();
+
+    Form &m_window;
+    const SaleDiscount &m_discount;
+    SaleProducts &m_products;
+    SaleCart &m_cart;
+    /// Scanned while a message box was open.
+    QString m_leftCode;
+    QTimer m_later;
+};
