@@ -9,6 +9,7 @@
 #include "platform/print/Printer.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Forms.h"
+#include "tests/support/EngineSql.h"
 
 #include <QFile>
 
@@ -81,6 +82,16 @@ QStringList TestCafe::query(const QString &sql)
         rows.append(row.join('|'));
     }
     return rows;
+}
+
+void TestCafe::loseField(const QString &table, const QString &field)
+{
+    renameField(dataFile(), textoConexao().section('=', 1), table, field);
+}
+
+void TestCafe::loseTable(const QString &table)
+{
+    runEngineSql(dataFile(), textoConexao().section('=', 1), "ALTER TABLE " + table + " RENAME TO old");
 }
 
 void TestCafe::executeAll(const QStringList &statements)

@@ -2,6 +2,7 @@
 
 #include "platform/base/Err.h"
 #include "platform/jet/DBEngine.h"
+#include "tests/support/EngineSql.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -26,6 +27,8 @@ public:
     {
         return DBEngine::Workspaces(0).OpenDatabase(path, false, false, connectText);
     }
+
+    void run(const QString &engineSql) const { runEngineSql(path(), connectText.mid(5), engineSql); }
 
     /// The bytes of the file, while no database has it open.
     QByteArray bytes() const

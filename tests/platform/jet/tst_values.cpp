@@ -48,6 +48,13 @@ private slots:
             check(no, false);
     }
 
+    void ordersEveryTrueFirst()
+    {
+        const DataFile file;
+        file.run("INSERT INTO Vendas (Codigo, Paga) VALUES (1, 0), (2, 255), (3, -1), (4, 0), (5, 1)");
+        QCOMPARE(file.answer("Select Codigo From Vendas Order By Paga,Codigo"), "2 3 5 1 4");
+    }
+
     void readsByTheRegionalSettings()
     {
         DataFile file;

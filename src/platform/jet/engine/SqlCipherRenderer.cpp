@@ -201,6 +201,13 @@ void Renderer::arithmetic(const Expression &expression)
 // A key is made once for a row, where a collation would be asked at every comparison.
 void Renderer::orderedValue(const Expression &expression)
 {
+    // Other programs store true as 1 or 255; for all of them it is -1, which goes before false.
+    if (expression.type == ValueType::Boolean) {
+        add("(-");
+        truth(expression);
+        add(")");
+        return;
+    }
     if (!expression.isText()) {
         value(expression);
         return;
