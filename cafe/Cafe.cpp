@@ -1,10 +1,12 @@
 #include "cafe/Cafe.h"
 
+#include "data/Esquema.h"
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
 #include "platform/files/Paths.h"
 #include "platform/files/PointerFile.h"
 #include "platform/jet/DBEngine.h"
+#include "platform/text/Numbers.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -107,6 +109,25 @@ QString pointAt(const QString &folder, PointFor whom)
     if (!WritePrivateProfileString("Configuracoes", "BD", dataFile, file))
         throw RunTimeError(ErrorNumber::PathAccess, file + ": cannot be written");
     return file;
+}
+
+QStringList upgradeCafe(const QString &folder)
+{
+    const DatabaseHandle db = openDataFile(folder);
+    if (db->schemaVersion() == 0)
+        throw RunTimeError(ErrorNumber::InvalidProcedureCall,
+                           folder + ": another program made the data file, whose design stays its own");
+    QStringList doubtful;
+    const QStringList fields{"Relativo", "Absoluto"};
+    for (const RecordsetHandle rs =
+             db->OpenRecordset("Select Codigo," + fields.join(',') + " From Descontos Order By Codigo");
+         !rs->Eof(); rs->MoveNext())
+        for (const QString &field : fields)
+            if (const FieldValue value = rs->Fields(field); !value.isNull() && !IsNumeric(value.text()))
+                doubtful += QString("discount rule %1: %2 \"%3\" is no number here and is read as %4")
+                                .arg(rs->Fields(0).text(), field, value.text(), Cstr(Val(value.utf8())));
+    db->applySchema(esquemaDoBanco());
+    return doubtful;
 }
 
 void backupCafe(const QString &folder, const QString &file)

@@ -54,5 +54,9 @@ QString pointAt(const QString &folder, PointFor whom);
 /// Faults of the data file, the configuration files and the language files, one line each; empty when all is sound.
 QStringList checkCafe(const QString &folder);
 
+/// Brings the design of a data file up to date that this tool made before. The answer names, a line each, the texts
+/// that are no numbers by this computer's regional settings, and the numbers that they become.
+QStringList upgradeCafe(const QString &folder);
+
 /// Writes a consistent, encrypted copy of the data file while terminals work on it.
 void backupCafe(const QString &folder, const QString &file);

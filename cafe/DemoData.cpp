@@ -11,10 +11,11 @@ namespace {
 
 constexpr int ClosedPeriods = 10;
 
-/// Columns of the built-in tables that hold an amount with a point as its separator.
+/// Columns of the built-in tables that hold an amount as a text, with a point as its separator. In number columns that
+/// point is the one of the statement.
 bool isAmount(const QString &column)
 {
-    return column == "Relativo" || column == "Absoluto" || column == "Valor" || column == "Desconto";
+    return column == "Valor" || column == "Desconto";
 }
 
 QStringList regional(const QStringList &columns, QStringList row)

@@ -9,7 +9,7 @@ namespace {
 
 FieldType typeOf(const QString &tableName, const QString &fieldName)
 {
-    static const QList<TableDef> tables = esquemaDoBanco(OtiTable::With).constFirst().NewTables;
+    static const QList<TableDef> tables = tabelasDoBanco(OtiTable::With);
     const auto table =
         std::find_if(tables.begin(), tables.end(), [&](const TableDef &t) { return t.Name == tableName; });
     if (table != tables.end()) {

@@ -141,6 +141,14 @@ int runCheck(const QCommandLineParser &, const QStringList &arguments)
     return Ok;
 }
 
+int runUpgrade(const QCommandLineParser &, const QStringList &arguments)
+{
+    for (const QString &doubtful : upgradeCafe(arguments[0]))
+        complain(doubtful);
+    out() << "The data file is up to date.\n";
+    return Ok;
+}
+
 int runBackup(const QCommandLineParser &, const QStringList &arguments)
 {
     backupCafe(arguments[0], arguments[1]);
@@ -182,6 +190,13 @@ const QList<Command> &commands()
          1,
          {},
          runCheck},
+        {"upgrade",
+         "FOLDER",
+         "Brings the data file of an earlier version up to date; its numbers are read by this computer's regional "
+         "settings.",
+         1,
+         {},
+         runUpgrade},
         {"backup",
          "FOLDER FILE",
          "Copies the data file, encrypted as it is, while terminals may be at work.",

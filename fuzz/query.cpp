@@ -89,7 +89,7 @@ void run(Database &database, const QString &sql, const Statement &statement)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static SmallFile file;
-    static const Catalogue catalogue(esquemaDoBanco().first().NewTables);
+    static const Catalogue catalogue(tabelasDoBanco());
     const QString sql = QString::fromUtf8(Input(data, size).rest());
     Statement statement;
     if (errorOf([&] {

@@ -38,7 +38,7 @@ std::size_t places(const std::string &sql)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static const Catalogue catalogue(esquemaDoBanco().first().NewTables);
+    static const Catalogue catalogue(tabelasDoBanco());
     RegionalSettings::use(QLocale("pt_BR"));
     const QString sql = QString::fromUtf8(Input(data, size).rest());
     Statement statement;

@@ -5,7 +5,8 @@ namespace {
 using enum FieldType;
 
 // Dates, times, money and quantities are texts: the programs write them by the computer's regional settings and turn
-// them into numbers where they compute. Only codes and cash periods are numbers.
+// them into numbers where they compute. Only codes and cash periods are numbers, and the percentages and amounts of the
+// discount rules, which a later step turns into such.
 
 TableDef clientes()
 {
@@ -204,5 +205,22 @@ QList<SchemaStep> esquemaDoBanco(OtiTable oti)
                       followsCustomer("Monitor_Impressao")}};
     if (oti == OtiTable::With)
         first.NewTables.append(venda_Produtos("Venda_ProdutosOti"));
-    return {first};
+    // Percentages and amounts mean the same on a computer with another decimal separator.
+    const SchemaStep numbers{2, {}, {{"Descontos", {"Relativo", "Absoluto"}}}};
+    return {first, numbers};
+}
+
+QList<TableDef> tabelasDoBanco(OtiTable oti)
+{
+    const QList<SchemaStep> steps = esquemaDoBanco(oti);
+    QList<TableDef> tables;
+    for (const SchemaStep &step : steps) {
+        tables += step.NewTables;
+        for (const FieldsToNumbers &change : step.NewNumbers)
+            for (TableDef &table : tables)
+                for (FieldDef &field : table.Fields)
+                    if (table.Name == change.Table && change.Fields.contains(field.Name))
+                        field.Type = Number;
+    }
+    return tables;
 }

@@ -9,5 +9,9 @@ enum class OtiTable
     With
 };
 
-/// The design of the shared data file, step by step.
+/// The design of the shared data file, step by step. Only the tool that tends a café runs the steps: a terminal works
+/// with every file as it finds it.
 QList<SchemaStep> esquemaDoBanco(OtiTable oti = OtiTable::Without);
+
+/// The tables as the last step leaves them.
+QList<TableDef> tabelasDoBanco(OtiTable oti = OtiTable::Without);

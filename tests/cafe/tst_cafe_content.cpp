@@ -1,7 +1,10 @@
 #include "cafe/Cafe.h"
 #include "cafe/Resources.h"
+#include "data/Esquema.h"
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
+#include "platform/jet/DBEngine.h"
+#include "platform/text/RegionalSettings.h"
 
 #include <QSet>
 #include <QTemporaryDir>
@@ -25,7 +28,11 @@ class tst_cafe_content : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { createCafe(cafe(), {}); }
+    void initTestCase()
+    {
+        RegionalSettings::use(QLocale("pt_BR"));
+        createCafe(cafe(), {});
+    }
 
     void languageIsComplete_data()
     {
@@ -76,6 +83,23 @@ private slots:
             db->Execute(QString("Insert into ") + row);
             QVERIFY_THROWS_EXCEPTION(RunTimeError, db->Execute(QString("Insert into ") + row));
         }
+    }
+
+    void bringsAnEarlierFileUpToDate()
+    {
+        const QString folder = m_place.filePath("old");
+        createCafe(folder, {});
+        QVERIFY(QFile::remove(dataFileOf(folder)));
+        const DatabaseHandle db = DBEngine::CreateDatabase(dataFileOf(folder), connectText());
+        QVERIFY_THROWS_EXCEPTION(RunTimeError, upgradeCafe(folder));
+        db->applySchema({esquemaDoBanco().first()});
+        for (const char *row : {"1,'8,5','0'", "2,'10%',''"})
+            db->Execute("Insert into Descontos (Codigo,Relativo,Absoluto) values (" + QString(row) + ")");
+        QCOMPARE(checkCafe(folder), QStringList());
+        QCOMPARE(upgradeCafe(folder).size(), 2);
+        QCOMPARE(column(*openDataFile(folder), "Select Relativo From Descontos Where Absoluto=0 Order By Codigo"),
+                 QStringList({"8,5", "10"}));
+        QCOMPARE(checkCafe(folder) + upgradeCafe(folder), QStringList());
     }
 
     void thousandsOfRowsCanBeToldApart()

@@ -35,12 +35,23 @@ OpenFile &Database::file() const
 
 RecordsetHandle Database::OpenRecordset(const QString &sql, int, int)
 {
-    return file().use([&](EngineSession &session) {
-        const Statement statement = file().read(sql);
+    const auto ask = [](EngineSession &session, const Statement &statement) {
         const auto *select = std::get_if<SelectStatement>(&statement);
         if (!select)
             throw RunTimeError(ErrorNumber::BadSql, "Only a query has an answer.");
         return std::make_shared<Recordset>(namesOf(select->columns), session.query(*select));
+    };
+    return file().use([&](EngineSession &session) {
+        const Statement statement = file().read(sql);
+        try {
+            return ask(session, statement);
+        } catch (const RunTimeError &error) {
+            if (error.Number() != ErrorNumber::BadSql)
+                throw;
+        }
+        // Another program may have taken a field away since the file was opened, and "*" means those that are left.
+        file().tables();
+        return ask(session, file().read(sql));
     });
 }
 
@@ -81,6 +92,8 @@ void Database::applySchema(const QList<SchemaStep> &steps)
                     return;
                 for (const TableDef &table : step.NewTables)
                     session.createTable(table);
+                for (const FieldsToNumbers &change : step.NewNumbers)
+                    session.turnIntoNumbers(change);
                 session.setSchemaVersion(step.Number);
             });
         });

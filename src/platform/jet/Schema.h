@@ -35,9 +35,18 @@ struct TableDef
     QList<QString> IndexedFields;
 };
 
+/// Text fields of a table that become numbers, by the regional settings of the computer that runs the step. What is no
+/// number there becomes its longest leading number, 0 where there is none; Null stays Null.
+struct FieldsToNumbers
+{
+    QString Table;
+    QList<QString> Fields;
+};
+
 /// One step of a data file's design. Steps are numbered from 1 and run in that order, each once for a file.
 struct SchemaStep
 {
     int Number;
     QList<TableDef> NewTables;
+    QList<FieldsToNumbers> NewNumbers = {};
 };

@@ -43,6 +43,8 @@ public:
     virtual int schemaVersion() = 0;
     virtual void setSchemaVersion(int version) = 0;
     virtual void createTable(const TableDef &table) = 0;
+    /// Leaves fields that are numbers already as they are, and all else of the table as its makers designed it.
+    virtual void turnIntoNumbers(const FieldsToNumbers &change) = 0;
 
     /// Faults in the file; empty when it is sound.
     virtual QStringList faults() = 0;

@@ -42,6 +42,17 @@ void cdbl(sqlite3_context *context, int, sqlite3_value **arguments)
         refuse(context);
 }
 
+void anyNumber(sqlite3_context *context, int, sqlite3_value **arguments)
+{
+    const int type = sqlite3_value_type(*arguments);
+    if (type == SQLITE_NULL || isNumber(*arguments)) {
+        sqlite3_result_value(context, *arguments);
+        return;
+    }
+    const std::optional<double> number = readNumber(textOf(*arguments));
+    sqlite3_result_double(context, number ? *number : Val(textOf(*arguments)));
+}
+
 void val(sqlite3_context *context, int, sqlite3_value **arguments)
 {
     if (sqlite3_value_type(*arguments) == SQLITE_NULL)
@@ -92,6 +103,7 @@ void registerSqlCipherFunctions(sqlite3 *handle)
     addFunction(handle, SqlCipherNames::Cdbl, cdbl);
     addFunction(handle, SqlCipherNames::Val, val);
     addFunction(handle, SqlCipherNames::Cstr, cstr);
+    addFunction(handle, SqlCipherNames::anyNumber, anyNumber);
     addFunction(handle, SqlCipherNames::textKey, textKey);
     sqlite3_create_collation_v2(handle, SqlCipherNames::anyCase, SQLITE_UTF8, nullptr, collateAnyCase, nullptr);
 }

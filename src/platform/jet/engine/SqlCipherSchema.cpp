@@ -1,8 +1,12 @@
 #include "platform/jet/engine/SqlCipherSchema.h"
 
+#include "platform/base/Err.h"
+#include "platform/jet/engine/SqlCipherFunctions.h"
 #include "platform/jet/engine/SqlCipherRenderer.h"
 
+#include <QRegularExpression>
 #include <QScopeGuard>
+#include <QStringList>
 
 namespace {
 
@@ -100,6 +104,22 @@ void createRenumbering(SqlCipherConnection &connection, const TableDef &table)
                    ") FROM " + name + ") + 1 WHERE rowid = NEW.rowid; END");
 }
 
+/// The text that made a table, with a field declared as a number instead.
+QString withNumber(const QString &design, const QString &field)
+{
+    const QRegularExpression declared(
+        QString(
+            R"(([(,]\s*["\[`]?%1(?!\w)["\]`]?))"
+            R"((\s+(?!(not|null|default|check|unique|primary|collate|constraint|references)\b)\w+(\s*\([\d\s,]*\))?)?)")
+            .arg(QRegularExpression::escape(field)),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    const QRegularExpressionMatch match = declared.match(design);
+    if (!match.hasMatch())
+        throw RunTimeError(ErrorNumber::UnknownField, QString("No field \"%1\" can be made a number.").arg(field));
+    return QString(design).replace(match.capturedStart(), match.capturedLength(),
+                                   match.captured(1) + ' ' + declaration(FieldType::Number));
+}
+
 } // namespace
 
 Catalogue readSqlCipherCatalogue(SqlCipherConnection &connection)
@@ -140,4 +160,43 @@ void createSqlCipherTable(SqlCipherConnection &connection, const TableDef &table
         createRenumbering(connection, table);
     for (const QString &field : table.IndexedFields)
         createIndex(connection, table, field, table.Name + " " + field, "INDEX");
+}
+
+// The engine can't change a field's type, so the rows wait aside while the table is made anew, in the words that made
+// it before: other programs may have given it fields, defaults, indexes and triggers of their own.
+void turnSqlCipherFields(SqlCipherConnection &connection, const FieldsToNumbers &change)
+{
+    const Catalogue catalogue = readSqlCipherCatalogue(connection);
+    const TableDef &table = catalogue.table(change.Table);
+    QString design;
+    QStringList belongings;
+    forEachRow(connection,
+               "SELECT name, type, sql, tbl_name FROM sqlite_master WHERE sql IS NOT NULL AND type <> 'view'",
+               [&](sqlite3_stmt *row) {
+                   if (textColumn(row, 3).compare(table.Name, Qt::CaseInsensitive) != 0)
+                       return;
+                   if (textColumn(row, 1) == "table")
+                       design = textColumn(row, 2);
+                   else
+                       belongings.append(textColumn(row, 2));
+               });
+
+    std::string names;
+    std::string values;
+    for (const FieldDef &field : table.Fields) {
+        const bool turns = field.Type != FieldType::Number && change.Fields.contains(field.Name, Qt::CaseInsensitive);
+        if (turns)
+            design = withNumber(design, field.Name);
+        const std::string name = quotedName(field.Name);
+        names += (names.empty() ? "" : ", ") + name;
+        values += (values.empty() ? "" : ", ") + (turns ? SqlCipherNames::anyNumber + ("(" + name + ")") : name);
+    }
+    const std::string name = "main." + quotedName(table.Name);
+    connection.run("CREATE TEMP TABLE kept AS SELECT * FROM " + name);
+    connection.run("DROP TABLE " + name);
+    connection.run(design.toStdString());
+    connection.run("INSERT INTO " + name + " (" + names + ") SELECT " + values + " FROM temp.kept");
+    connection.run("DROP TABLE temp.kept");
+    for (const QString &belonging : std::as_const(belongings))
+        connection.run(belonging.toStdString());
 }

@@ -7,3 +7,4 @@
 
 Catalogue readSqlCipherCatalogue(SqlCipherConnection &connection);
 void createSqlCipherTable(SqlCipherConnection &connection, const TableDef &table);
+void turnSqlCipherFields(SqlCipherConnection &connection, const FieldsToNumbers &change);

@@ -171,6 +171,12 @@ void SqlCipherSession::createTable(const TableDef &table)
     createSqlCipherTable(m_connection, table);
 }
 
+void SqlCipherSession::turnIntoNumbers(const FieldsToNumbers &change)
+{
+    m_connection.requireSameFile();
+    turnSqlCipherFields(m_connection, change);
+}
+
 QStringList SqlCipherSession::faults()
 {
     m_connection.requireSameFile();

@@ -20,6 +20,7 @@ public:
     int schemaVersion() override;
     void setSchemaVersion(int version) override;
     void createTable(const TableDef &table) override;
+    void turnIntoNumbers(const FieldsToNumbers &change) override;
     QStringList faults() override;
     void repair() override;
     void compact() override;
