@@ -35,7 +35,7 @@ bool IsDate(QStringView text)
 
 std::optional<QDate> readDate(QStringView text)
 {
-    static const QRegularExpression threeNumbers(R"(^\s*(\d{1,4})([-/.])(\d{1,2})\2(\d{1,4})\s*$)");
+    static const QRegularExpression threeNumbers(R"(^\s*(\d{1,4})\s*([-/.])\s*(\d{1,2})\s*\2\s*(\d{1,4})\s*$)");
     const QRegularExpressionMatch match = threeNumbers.match(text.toString());
     if (!match.hasMatch())
         return {};

@@ -12,7 +12,7 @@ QString FormatDate(const QDateTime &moment, QStringView pattern = {});
 /// "hh:mm:ss", 24 hours.
 QString FormatTime(const QDateTime &moment);
 
-/// A date in the order of the region's short date, with "/", "-" or "." between its numbers; empty for what
-/// is none.
+/// A date in the order of the region's short date, with "/", "-" or "." between its numbers and blanks around
+/// them; empty for what is none.
 std::optional<QDate> readDate(QStringView text);
 bool IsDate(QStringView text);

@@ -7,6 +7,9 @@ namespace {
 constexpr QChar place = u'#';
 constexpr QChar blank = u' ';
 
+/// What people type between the numbers of a date, whatever the mask has there.
+constexpr QStringView separators = u"/-.";
+
 bool isDigit(QChar character)
 {
     return character >= u'0' && character <= u'9';
@@ -78,8 +81,9 @@ bool MaskedTextBox::fits(const QString &text) const
 
 bool MaskedTextBox::concerns(QStringView typed) const
 {
-    return std::any_of(typed.begin(), typed.end(),
-                       [this](QChar character) { return isDigit(character) || m_mask.contains(character); });
+    return std::any_of(typed.begin(), typed.end(), [this](QChar character) {
+        return isDigit(character) || separators.contains(character) || m_mask.contains(character);
+    });
 }
 
 /// Puts digits into their places from the caret on. What stands between two groups of digits, the separators of the
@@ -89,12 +93,15 @@ void MaskedTextBox::fill(State &state, QStringView typed) const
     qsizetype caret = state.caret;
     bool foreignGap = false;
     bool ownGap = false;
+    const auto leaveGroup = [&] {
+        if (foreignGap && !ownGap && isPlace(caret - 1))
+            while (isPlace(caret))
+                ++caret;
+        foreignGap = ownGap = false;
+    };
     for (const QChar character : typed) {
         if (isDigit(character)) {
-            if (foreignGap && !ownGap && isPlace(caret - 1))
-                while (isPlace(caret))
-                    ++caret;
-            foreignGap = ownGap = false;
+            leaveGroup();
             const qsizetype next = m_mask.indexOf(place, caret);
             if (next < 0)
                 break;
@@ -108,6 +115,7 @@ void MaskedTextBox::fill(State &state, QStringView typed) const
             foreignGap = true;
         }
     }
+    leaveGroup();
     state.caret = static_cast<int>(caret);
 }
 

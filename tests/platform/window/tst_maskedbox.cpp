@@ -60,6 +60,8 @@ private slots:
             int caret;
         } rows[] = {
             {date, none, "3x1 -.12", "", "31/12/    ", 5},
+            {date, none, "1/2/1990", "", "1 /2 /1990", 10},
+            {date, none, "1-22.", "", "1 /22/    ", 5},
             {date, full, "ellllbb", "", "31/  /1999", 3},
             {date, full, "ellllld", "", "31/12/ 999", 6},
             {date, full, "ess7", "", "31/12/197 ", 9},
