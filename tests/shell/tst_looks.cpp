@@ -50,6 +50,8 @@ private slots:
             const bool first = language == Scenes::languages().first();
             for (const QString &scene : Scenes::windows() + (first ? Scenes::states() : QStringList()))
                 scenes.play(scene, [&](const Form &window) {
+                    for (const QLabel *label : window.findChildren<QLabel *>())
+                        QVERIFY2(label->textFormat() == Qt::PlainText, qPrintable(label->objectName()));
                     for (const QWidget *widget : window.findChildren<QWidget *>())
                         QVERIFY2(!isCut(*widget), qPrintable(language + ", " + scene + ": " + widget->objectName()));
                 });

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QLayout>
 #include <QPushButton>
 #include <QScopeGuard>
@@ -31,6 +32,9 @@ void Form::Load()
     // Enter presses the button that has the keyboard, on every desktop.
     for (QPushButton *button : findChildren<QPushButton *>())
         button->setAutoDefault(true);
+    // A customer's name that looks like markup is a name.
+    for (QLabel *label : findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
     Form_Load();
 }
 
