@@ -5,9 +5,8 @@
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
 #include "configuration/Idiomas.h"
-#include "data/Acesso_BD.h"
+#include "data/FirstRow.h"
 #include "data/Funcoes.h"
-#include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
@@ -131,23 +130,19 @@ void SaleReceipt::printHeading(const Content &content)
 
 void SaleReceipt::printCompany()
 {
-    OnErrorResumeNext([&] {
-        Abrir_Banco_Principal();
-        RecordsetHandle rs;
-        rs = Abrir_Recordset(rs, BancoPrincipal, "Select * From Empresa Where Codigo=1");
-        if (!rs || rs->Eof())
-            return;
-        const auto field = [&](const QString &name) { return rs->Fields(name).text(); };
-        const QString name = field("Razao_Social");
-        const QString taxNumber = text(m_keys.taxNumber) + field("CGC");
-        const QString address = field("Endereco") + ", " + field("Numero") + text(m_keys.district) + field("Bairro") +
-                                " - " + field("Cidade") + " / " + field("UF");
-        m_device.place(0, m_linha + 2, name);
-        m_device.place(70, m_linha + 2, taxNumber);
-        m_device.place(0, m_linha + 3, address);
-        m_device.write(name);
-        m_device.write(taxNumber);
-        m_device.write(address);
+    readFirstRow("Select * From Empresa Where Codigo=1", [this](const Recordset &rs) {
+        const auto field = [&](const char *name) { return rs.Fields(name).text(); };
+        const auto print = [this](int column, int line, const QString &item) {
+            m_device.place(column, m_linha + line, item);
+            m_device.write(item);
+        };
+        OnErrorResumeNext([&] { print(0, 2, field("Razao_Social")); },
+                          [&] { print(70, 2, text(m_keys.taxNumber) + field("CGC")); },
+                          [&] {
+                              print(0, 3,
+                                    field("Endereco") + ", " + field("Numero") + text(m_keys.district) +
+                                        field("Bairro") + " - " + field("Cidade") + " / " + field("UF"));
+                          });
     });
 }
 

@@ -45,33 +45,34 @@ void CustomerEditing::begin()
 void CustomerEditing::EditarCliente(double codigo)
 {
     readFirstRow("Select * from Clientes Where Codigo=" + Cstr(codigo), [&](const Recordset &rs) {
-        const auto field = [&](const char *name) { return rs.Fields(name).text(); };
-        ui.txtnome->setText(field("Nome"));
+        fillFrom(rs, "Nome", ui.txtnome);
         m_state.NomeAntigo = ui.txtnome->text();
-        ui.txtnick->setText(field("Nick"));
+        fillFrom(rs, "Nick", ui.txtnick);
         m_state.NickAntigo = ui.txtnick->text();
-        ui.txtdocumento->setText(field("Documento"));
-        ui.cmbgrupo_clientes->setText(field("Grupo"));
-        ui.txtmail->setText(field("E_Mail"));
-        ui.txtdata_nascimento->setText(field("Data_Nasc"));
-        ui.txtrua->setText(field("Rua"));
-        ui.txtnumero->setText(field("Numero"));
-        ui.txtComplemento->setText(field("Complemento"));
-        ui.txtbairro->setText(field("Bairro"));
-        ui.txtcidade->setText(field("Cidade"));
-        ui.cmbUF->setText(field("UF"));
-        ui.txtCep->setText(field("CEP"));
-        ui.txttel_residencial->setText(field("Tel_Residencial"));
-        ui.txttel_comercial->setText(field("Tel_Comercial"));
-        ui.txttel_celular->setText(field("Tel_Celular"));
-        ui.txtobs->setText(field("Obs"));
-        ui.txtfiliação->setText(field("Filiacao"));
-        const auto isTrue = [&](const char *name) { return !rs.Fields(name).isNull() && rs.Fields(name).boolean(); };
-        ui.chkautorização->setChecked(isTrue("Autorizado"));
-        ui.chkobs->setChecked(isTrue("MsgObs"));
+        fillFrom(rs, "Documento", ui.txtdocumento);
+        fillFrom(rs, "Grupo", ui.cmbgrupo_clientes);
+        fillFrom(rs, "E_Mail", ui.txtmail);
+        fillFrom(rs, "Data_Nasc", ui.txtdata_nascimento);
+        fillFrom(rs, "Rua", ui.txtrua);
+        fillFrom(rs, "Numero", ui.txtnumero);
+        fillFrom(rs, "Complemento", ui.txtComplemento);
+        fillFrom(rs, "Bairro", ui.txtbairro);
+        fillFrom(rs, "Cidade", ui.txtcidade);
+        fillFrom(rs, "UF", ui.cmbUF);
+        fillFrom(rs, "CEP", ui.txtCep);
+        fillFrom(rs, "Tel_Residencial", ui.txttel_residencial);
+        fillFrom(rs, "Tel_Comercial", ui.txttel_comercial);
+        fillFrom(rs, "Tel_Celular", ui.txttel_celular);
+        fillFrom(rs, "Obs", ui.txtobs);
+        fillFrom(rs, "Filiacao", ui.txtfiliação);
+        const auto tickFrom = [&](const char *field, QCheckBox *box) {
+            OnErrorResumeNext([&] { box->setChecked(!rs.Fields(field).isNull() && rs.Fields(field).boolean()); });
+        };
+        tickFrom("Autorizado", ui.chkautorização);
+        tickFrom("MsgObs", ui.chkobs);
         // Though the photo is shown, a save without a new one clears its path. That stays.
         m_state.CaminhoFoto = Placeholder::NoPhoto;
-        ui.imgfoto->showStored(field("CaminhoFoto"));
+        ui.imgfoto->showStored(rs.Fields("CaminhoFoto").text());
     });
     m_form.showDiscount();
 }

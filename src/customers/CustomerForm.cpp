@@ -140,7 +140,7 @@ void CustomerForm::maskPostalCode()
 
 void CustomerForm::takeTownOfCafe()
 {
-    readFirstRow("Select * From Empresa Where Codigo=1", [&](const Recordset &rs) {
+    OrRaise::readFirstRow("Select * From Empresa Where Codigo=1", [&](const Recordset &rs) {
         ui.txtcidade->setText(rs.Fields("Cidade").text());
         ui.cmbUF->setText(rs.Fields("UF").text());
         ui.txtCep->setText(rs.Fields("Cep").text());
@@ -197,9 +197,12 @@ void CustomerForm::fillBehindBirthDate()
 
 void CustomerForm::showDiscount()
 {
-    QString discount = customerTexts.loaded("String9");
-    readFirstRow(
-        "Select * from Grupo_Clientes Where Grupo='" + ui.cmbgrupo_clientes->Text().toUpper() + "'",
-        [&](const Recordset &rs) { discount = customerTexts.loaded("String8") + rs.Fields("Desconto").text() + "%"; });
-    ui.lbldesconto->setText(discount);
+    // Without groups nothing was ever selected, and the label stays as it was designed.
+    if (ui.cmbgrupo_clientes->count() == 0)
+        return;
+    if (!readFirstRow("Select * from Grupo_Clientes Where Grupo='" + ui.cmbgrupo_clientes->Text().toUpper() + "'",
+                      [&](const Recordset &rs) {
+                          ui.lbldesconto->setText(customerTexts.loaded("String8") + rs.Fields("Desconto").text() + "%");
+                      }))
+        ui.lbldesconto->setText(customerTexts.loaded("String9"));
 }

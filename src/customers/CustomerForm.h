@@ -25,7 +25,7 @@ public:
     void Nick_Sequencial();
     /// The mask of the postal code falls away in a region without one.
     void maskPostalCode();
-    /// Town, state and postal code of the café itself, the likeliest ones of a new customer.
+    /// Town, state and postal code of the café itself, the likeliest ones of a new customer. Raises when a query fails.
     void takeTownOfCafe();
 
     /// Empties the boxes and unticks the ticks.

@@ -156,6 +156,17 @@ bool CustomerList::Buscar_Cliente(const QString &texto, int inicio)
     return selectCustomer(*ui.tab_clientes, texto, inicio, CustomerColumn::Codigo, [this] { tab_clientes_Click(); });
 }
 
+void CustomerList::Localizar(const QString &texto)
+{
+    FlexGrid &grid = *ui.tab_clientes;
+    for (int row = 1; row < grid.Rows(); ++row)
+        if (grid.TextMatrix(row, CustomerColumn::Name).toUpper() == texto.toUpper()) {
+            grid.setRow(row);
+            grid.setTopRow(row);
+            return;
+        }
+}
+
 void CustomerList::cmdbusca_Click()
 {
     if (ui.txtnome_busca->text().isEmpty()) {

@@ -22,6 +22,8 @@ public:
     void Ordenar_Tabela(const QString &campo);
     /// Selects the first customer from a row on whose name or nick begins with the text.
     bool Buscar_Cliente(const QString &texto, int inicio);
+    /// Goes to the customer of exactly that name, in any case; stays where there is none.
+    void Localizar(const QString &texto);
 
     /// Writes the customer in the form into a row, but for its code.
     void showCustomer(int row, bool authorised);

@@ -11,8 +11,8 @@ bool isTaken(const QString &field, TextBox *box, const QString &others, Refusal 
 {
     const QString value = box->text().toUpper();
     QString owner;
-    if (!readFirstRow("Select Nome From Clientes Where " + field + "='" + value + "'" + others,
-                      [&](const Recordset &rs) { owner = rs.Fields("Nome").text(); }))
+    if (!OrRaise::readFirstRow("Select Nome From Clientes Where " + field + "='" + value + "'" + others,
+                               [&](const Recordset &rs) { owner = rs.Fields("Nome").text(); }))
         return false;
     customerTexts.noticeText(refusal(value, owner));
     box->setFocus();

@@ -9,6 +9,7 @@
 #include "customers/CustomerRemoval.h"
 #include "customers/CustomerTexts.h"
 #include "data/Acesso_BD.h"
+#include "platform/base/Err.h"
 #include "ui_frmcadastro_clientes.h"
 
 frmcadastro_clientes::frmcadastro_clientes() : ui(std::make_unique<Ui::frmcadastro_clientes>())
@@ -43,12 +44,15 @@ void frmcadastro_clientes::Form_Load()
     if (ui->tab_clientes->Rows() >= 2)
         m_list->Ordenar_Tabela("Codigo");
     m_list->enableButtons();
-    Abrir_Banco_Principal();
-    m_form->selectFirstState();
-    m_form->Selecionar_Grupo_Padrao();
-    m_form->takeTownOfCafe();
-    if (ui->tab_clientes->Rows() >= 2)
-        m_state.LinhaSelecionada = 1;
+    // What fails here leads to the nick.
+    OnErrorGoToEnd([this] {
+        Abrir_Banco_Principal();
+        m_form->selectFirstState();
+        m_form->Selecionar_Grupo_Padrao();
+        m_form->takeTownOfCafe();
+        if (ui->tab_clientes->Rows() >= 2)
+            m_state.LinhaSelecionada = 1;
+    });
     m_form->Nick_Sequencial();
     Fechar_Recordsets_Globais();
     m_photo->forget();
@@ -57,6 +61,16 @@ void frmcadastro_clientes::Form_Load()
 void frmcadastro_clientes::Editar_Cliente()
 {
     m_editing->cmdeditar_Click();
+}
+
+void frmcadastro_clientes::EditarCliente(double codigo)
+{
+    m_editing->EditarCliente(codigo);
+}
+
+void frmcadastro_clientes::Localizar(const QString &texto)
+{
+    m_list->Localizar(texto);
 }
 
 void frmcadastro_clientes::cmdexcluir_Click()

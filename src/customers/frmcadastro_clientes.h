@@ -25,6 +25,10 @@ public:
 
     /// The same as a press on its button.
     void Editar_Cliente();
+    /// Loads a customer into the form.
+    void EditarCliente(double codigo);
+    /// Goes to the customer of exactly that name, in any case.
+    void Localizar(const QString &texto);
 
 protected:
     /// Runs again after a deletion.

@@ -58,6 +58,14 @@ bool prepareQuery(RecordsetHandle &target, DatabaseHandle &database)
     Abrir_BD(CaminhoBD, 0, 3, textoConexao(), database);
     return false;
 }
+
+Database &openBanco()
+{
+    Abrir_Banco_Principal();
+    if (!BancoPrincipal)
+        throw RunTimeError(ErrorNumber::ObjectNotSet, "The data file is not open.");
+    return *BancoPrincipal;
+}
 } // namespace
 
 QString textoConexao()
@@ -90,10 +98,12 @@ void Abrir_Banco_Principal()
 
 void executeStatement(const QString &sql)
 {
-    Abrir_Banco_Principal();
-    if (!BancoPrincipal)
-        throw RunTimeError(ErrorNumber::ObjectNotSet, "The data file is not open.");
-    BancoPrincipal->Execute(sql);
+    openBanco().Execute(sql);
+}
+
+RecordsetHandle openQuery(const QString &sql)
+{
+    return openBanco().OpenRecordset(sql, dbOpenForwardOnly, dbSeeChanges);
 }
 
 QString quoted(const QString &text)

@@ -26,6 +26,9 @@ void Abrir_Banco_Principal();
 /// Runs a writing statement on the main handle. Raises when it fails, and when no file is open.
 void executeStatement(const QString &sql);
 
+/// Runs a query on the main handle, to be read forward. Raises when it fails, and when no file is open.
+RecordsetHandle openQuery(const QString &sql);
+
 /// A text as a value of a statement. An apostrophe within it breaks the statement.
 QString quoted(const QString &text);
 

@@ -18,6 +18,14 @@ bool readFirstRow(const QString &sql, Read read)
     return found;
 }
 
+/// Puts a field's text into a control, with errors ignored: a field that is not there leaves this control alone and
+/// keeps none behind it from being filled.
+template <typename Control>
+void fillFrom(const Recordset &rs, const QString &field, Control *control)
+{
+    OnErrorResumeNext([&] { control->setText(rs.Fields(field).text()); });
+}
+
 /// The key that follows the highest one, which the query asks for; 1 in an empty table.
 inline double keyBehind(const QString &sql)
 {
@@ -30,3 +38,27 @@ inline bool hasRow(const QString &sql)
 {
     return readFirstRow(sql, [](const Recordset &) {});
 }
+
+/// The same for routines whose failures are trapped or end the program: these raise what fails.
+namespace OrRaise {
+template <typename Read>
+bool readFirstRow(const QString &sql, Read read)
+{
+    const RecordsetHandle rs = openQuery(sql);
+    if (rs->Eof())
+        return false;
+    read(*rs);
+    return true;
+}
+
+inline double keyBehind(const QString &sql)
+{
+    const RecordsetHandle rs = openQuery(sql);
+    return rs->Eof() || rs->Fields(0).isNull() ? 1 : rs->Fields(0).number() + 1;
+}
+
+inline bool hasRow(const QString &sql)
+{
+    return !openQuery(sql)->Eof();
+}
+} // namespace OrRaise

@@ -73,7 +73,7 @@ bool CategoryEditing::isTaken(const QString &condition)
 
 void CategoryEditing::store()
 {
-    const double codigo = keyBehind("Select Max(Codigo) From Categoria");
+    const double codigo = OrRaise::keyBehind("Select Max(Codigo) From Categoria");
     const QString name = typedName();
     if (isTaken("nome='" + name + "'")) {
         ui.txtnome->setFocus();

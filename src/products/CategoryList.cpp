@@ -1,6 +1,7 @@
 #include "products/CategoryList.h"
 
 #include "data/Acesso_BD.h"
+#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "products/CategoryState.h"
 #include "products/CategoryTexts.h"
@@ -32,10 +33,12 @@ void CategoryList::load()
 
     RecordsetHandle rs;
     Abrir_Recordset(rs, BancoPrincipal, "Select * from Categoria Order By Nome");
-    for (; rs && !rs->Eof(); rs->MoveNext()) {
-        const QString name = rs->Fields("Nome").text();
-        addCategory(rs->Fields("Codigo").number(), name, name.toUpper() == m_state.CategoriaPadrao);
-    }
+    // A row without a number is left out: nothing could be done with it here.
+    for (; rs && !rs->Eof(); rs->MoveNext())
+        OnErrorResumeNext([&] {
+            const QString name = rs->Fields("Nome").text();
+            addCategory(rs->Fields("Codigo").number(), name, name.toUpper() == m_state.CategoriaPadrao);
+        });
     Fechar_Recordset(rs);
     grid.setRow(0);
     showTotal();

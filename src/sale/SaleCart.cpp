@@ -88,7 +88,9 @@ void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
     bool enough = false;
     OnErrorResumeNext([&] { enough = rs->Fields("Quantidade").number() - quantidade >= 0; });
     if (!service && !enough) {
-        refuse(descricao, quantidade, rs->Fields("Quantidade").text());
+        QString stock;
+        OnErrorResumeNext([&] { stock = rs->Fields("Quantidade").text(); });
+        refuse(descricao, quantidade, stock);
         return;
     }
 

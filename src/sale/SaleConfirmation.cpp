@@ -228,14 +228,10 @@ void SaleConfirmation::lowerStock(int row)
 
 quint8 SaleConfirmation::Estoque_Minimo(const QString &descricao) const
 {
-    quint8 low = 0;
-    RecordsetHandle rs;
-    rs = Abrir_Recordset(rs, BancoPrincipal,
-                         "Select * from Produtos Where Descrição='" + descricao + "' And Servico=False");
-    if (rs && !rs->Eof() && Val(rs->Fields("Estoque_Min").utf8()) >= Val(rs->Fields("Quantidade").utf8()))
-        low = yesFlag;
-    Fechar_Recordset(rs);
-    return low;
+    bool low = false;
+    readFirstRow("Select * from Produtos Where Descrição='" + descricao + "' And Servico=False",
+                 [&](const Recordset &rs) { low = isLow(rs); });
+    return low ? yesFlag : 0;
 }
 
 void SaleConfirmation::reset()

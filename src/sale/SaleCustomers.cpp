@@ -12,6 +12,8 @@
 
 #include <QKeyEvent>
 
+#include <array>
+
 SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleDiscount &discount, QObject *parent)
     : QObject(parent), ui(window), m_state(state), m_discount(discount), m_next(*window.cmdbusca)
 {
@@ -43,35 +45,29 @@ void SaleCustomers::Listar_Clientes()
 {
     FlexGrid &grid = *ui.tab_clientes;
     const LongWork work;
-    OnErrorResumeNext([&] {
-        Abrir_Banco_Principal();
-        grid.Clear();
-        grid.setFormatString("<          |<" + saleTexts.text("tab_clientes1") + "|<" +
-                             saleTexts.text("tab_clientes2"));
-        grid.setCols(3);
-        grid.setRows(1);
+    Abrir_Banco_Principal();
+    grid.Clear();
+    grid.setFormatString("<          |<" + saleTexts.text("tab_clientes1") + "|<" + saleTexts.text("tab_clientes2"));
+    grid.setCols(3);
+    grid.setRows(1);
 
-        RecordsetHandle rs;
-        rs = Abrir_Recordset(rs, BancoPrincipal, "Select Count(*) from Clientes");
-        int count = 0;
-        if (rs && !rs->Eof() && !rs->Fields(0).isNull())
-            count = static_cast<int>(rs->Fields(0).number());
-        rs = Abrir_Recordset(rs, BancoPrincipal, "Select * from Clientes Order By Nome");
-        if (!rs || rs->Eof())
-            return;
+    int count = 0;
+    readFirstRow("Select Count(*) from Clientes",
+                 [&](const Recordset &rs) { count = static_cast<int>(rs.Fields(0).number()); });
+    RecordsetHandle rs;
+    Abrir_Recordset(rs, BancoPrincipal, "Select * from Clientes Order By Nome");
+    if (rs && !rs->Eof())
         grid.setRows(count + 1);
-        const QString codigo = "Codigo";
-        const QString nome = "Nome";
-        const QString nick = "Nick";
-        // Another terminal may have registered a customer since the count; the list holds those that were counted.
-        for (int row = 1; !rs->Eof() && row <= count; rs->MoveNext(), ++row) {
-            LongWork::goOn();
-            grid.setTextMatrix(row, 0, rs->Fields(codigo).text());
-            grid.setTextMatrix(row, CustomerColumn::Name, rs->Fields(nome).text());
-            grid.setTextMatrix(row, CustomerColumn::Nick, rs->Fields(nick).text());
-        }
-        Fechar_Recordset(rs);
-    });
+    const std::array fields{std::pair(CustomerColumn::Codigo, QString("Codigo")),
+                            std::pair(CustomerColumn::Name, QString("Nome")),
+                            std::pair(CustomerColumn::Nick, QString("Nick"))};
+    // Another terminal may have registered a customer since the count; the list holds those that were counted.
+    for (int row = 1; rs && !rs->Eof() && row <= count; rs->MoveNext(), ++row) {
+        LongWork::goOn();
+        for (const auto &[column, field] : fields)
+            OnErrorResumeNext([&] { grid.setTextMatrix(row, column, rs->Fields(field).text()); });
+    }
+    Fechar_Recordset(rs);
 }
 
 void SaleCustomers::refill()

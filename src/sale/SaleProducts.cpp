@@ -2,9 +2,8 @@
 
 #include "checkout/SaleDiscount.h"
 #include "configuration/Globais.h"
-#include "data/Acesso_BD.h"
+#include "data/FirstRow.h"
 #include "data/Placeholders.h"
-#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
 #include "platform/window/Look.h"
@@ -21,6 +20,11 @@ QString productDescription(const QString &entry)
     // A code has at most three characters; a bracket further on belongs to the description.
     const qsizetype end = entry.indexOf(')');
     return entry.startsWith('(') && end >= 0 && end <= 4 ? entry.mid(end + 2) : entry;
+}
+
+bool isLow(const Recordset &product)
+{
+    return Val(product.Fields("Estoque_Min").utf8()) >= Val(product.Fields("Quantidade").utf8());
 }
 
 SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, QObject *parent)
@@ -56,21 +60,22 @@ SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, Q
 void SaleProducts::Listar_Produtos()
 {
     ui.cmbprodutos->clear();
-    OnErrorResumeNext([&] {
-        Abrir_Banco_Principal();
-        RecordsetHandle rs;
-        rs = Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Where Codigo <> 1 Order By Descrição");
-        QStringList entries;
-        for (; rs && !rs->Eof(); rs->MoveNext()) {
-            const FieldValue code = rs->Fields("Cod");
-            const QString description = rs->Fields("Descrição").text();
-            const bool coded = !code.isNull() && code.text() != Placeholder::NoProductCode;
-            entries += coded ? productEntry(code.text(), description) : description;
-        }
-        ui.cmbprodutos->addItems(entries);
-        ui.cmbprodutos->setCurrentIndex(-1);
-        Fechar_Recordset(rs);
-    });
+    Abrir_Banco_Principal();
+    RecordsetHandle rs;
+    Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Where Codigo <> 1 Order By Descrição");
+    QStringList entries;
+    for (; rs && !rs->Eof(); rs->MoveNext()) {
+        FieldValue code;
+        OnErrorResumeNext([&] { code = rs->Fields("Cod"); },
+                          [&] {
+                              const QString description = rs->Fields("Descrição").text();
+                              const bool coded = !code.isNull() && code.text() != Placeholder::NoProductCode;
+                              entries += coded ? productEntry(code.text(), description) : description;
+                          });
+    }
+    Fechar_Recordset(rs);
+    ui.cmbprodutos->addItems(entries);
+    ui.cmbprodutos->setCurrentIndex(-1);
 }
 
 int SaleProducts::entryOf(const QString &texto) const
@@ -121,22 +126,24 @@ void SaleProducts::cmbprodutos_Click()
 
 void SaleProducts::Info_Produto(const QString &descricao)
 {
-    OnErrorResumeNext([&] {
-        Abrir_Banco_Principal();
-        RecordsetHandle rs;
-        rs = Abrir_Recordset(rs, BancoPrincipal,
-                             "Select * from Produtos Where Descrição='" + descricao + "' Order By Descrição");
-        if (!rs || rs->Eof())
-            return;
-        ui.lblpreço_unitario->setCaption(saleTexts.loaded("String2") + SimboloMoeda + " " +
-                                         rs->Fields("Valor_Unitario").text());
-        ui.lblquant_estoque->setCaption(rs->Fields("Servico").boolean()
-                                            ? saleTexts.loaded("String4")
-                                            : saleTexts.loaded("String3") + rs->Fields("Quantidade").text());
-        setWarning(*ui.lblquant_estoque, !rs->Fields("Servico").boolean() && Val(rs->Fields("Estoque_Min").utf8()) >=
-                                                                                 Val(rs->Fields("Quantidade").utf8()));
-        Fechar_Recordset(rs);
-    });
+    readFirstRow(
+        "Select * from Produtos Where Descrição='" + descricao + "' Order By Descrição", [&](const Recordset &rs) {
+            bool service = false;
+            bool low = false;
+            OnErrorResumeNext(
+                [&] {
+                    ui.lblpreço_unitario->setCaption(saleTexts.loaded("String2") + SimboloMoeda + " " +
+                                                     rs.Fields("Valor_Unitario").text());
+                },
+                [&] { service = rs.Fields("Servico").boolean(); },
+                [&] {
+                    ui.lblquant_estoque->setCaption(service
+                                                        ? saleTexts.loaded("String4")
+                                                        : saleTexts.loaded("String3") + rs.Fields("Quantidade").text());
+                },
+                [&] { low = !service && isLow(rs); });
+            setWarning(*ui.lblquant_estoque, low);
+        });
 }
 
 QString SaleProducts::Retornar_Descrição(const QString &cod_barra)

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 
+class Recordset;
 class SaleDiscount;
 namespace Ui {
 class frmvenda;
@@ -12,6 +13,9 @@ class frmvenda;
 QString productEntry(const QString &code, const QString &description);
 /// The bare description of such a text.
 QString productDescription(const QString &entry);
+
+/// Whether a product's stock, in the current row, is at or below its minimum. Raises when a field is missing.
+bool isLow(const Recordset &product);
 
 /// Finding a product by its name, its internal code or its barcode.
 class SaleProducts : public QObject

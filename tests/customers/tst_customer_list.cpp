@@ -30,6 +30,9 @@ private slots:
         // The headings are the current row now, and no customer.
         desk.refuses("cmdeditar", desk.text("MsgBox4"));
         desk.refuses("cmdexcluir", desk.text("MsgBox9"));
+        desk.window().Localizar("bia sá");
+        desk.window().Localizar("BIA");
+        QCOMPARE(desk.list().TextMatrix(desk.list().Row(), 1), QString("BIA SÁ"));
     }
 
     void findsByTheStartOfNameOrNick()
@@ -181,16 +184,40 @@ private slots:
         desk.type("txtrua", "");
         desk.expectSave(vbNo);
         desk.press("cmdeditar");
-        // What was executed before the failure stays: here the row itself, while the old name breaks what follows.
+        // A question that the old name breaks comes before all that would change: no photo is replaced.
+        desk.machine.installCamera();
+        desk.press("cmdwebcam");
+        desk.cafe.writeFile("Fototemp.jpg", "new");
+        desk.cafe.writeFile("Fotos/6.jpg", "old");
         desk.edit(4);
         desk.type("txtnome", "DAVI");
-        desk.type("txtnick", "DAVI");
         desk.expectSave();
         // The search box shows the old name, and is a box of the window like any other.
         desk.expectNoticeText(desk.text("MsgBox1"));
         QVERIFY_EXCEPTION_THROWN(desk.window().Editar_Cliente(), RunTimeError);
-        QCOMPARE(desk.stored("Nome").last(), QString("DAVI"));
-        QCOMPARE(desk.listed(1).last(), QString("D'ÁVILA"));
+        QCOMPARE(desk.cafe.readFile("Fotos/6.jpg") + desk.stored("Nome").last().toUtf8(), "oldD'ÁVILA");
+        desk.expectSave(vbNo);
+        desk.press("cmdeditar");
+        // What was executed before the failure stays.
+        desk.cafe.loseTable("Log");
+        desk.edit(3);
+        desk.type("txtnome", "DAVI");
+        desk.expectSave();
+        QVERIFY_EXCEPTION_THROWN(desk.window().Editar_Cliente(), RunTimeError);
+        QCOMPARE(desk.stored("Nome")[2], QString("DAVI"));
+        QCOMPARE(desk.listed(1)[2], QString("CAIO REIS"));
+    }
+
+    void showsWhatAFileWithoutSomeFieldsKnows()
+    {
+        CustomerDesk desk;
+        desk.change("Clientes", "Rua='RUA UM', CaminhoFoto=Null Where Codigo=1");
+        for (const char *field : {"Documento", "E_mail", "Autorizado"})
+            desk.cafe.loseField("Clientes", field);
+        desk.cafe.loseField("Empresa", "UF");
+        desk.open();
+        desk.window().EditarCliente(1);
+        QCOMPARE(desk.shown("txtnome") + desk.shown("txtrua") + desk.shown("cmbgrupo_clientes"), "ANA LIMARUA UMVIP");
     }
 
     void removesOneAndMany()

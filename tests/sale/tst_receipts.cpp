@@ -56,6 +56,10 @@ private slots:
                 QVERIFY2(lines.filter(text).size() == 2, qPrintable(text));
             QCOMPARE(counters(counter.cafe), "15/03/2024 " + QString(after));
         }
+        // An address that isn't whole takes nothing else with it.
+        counter.cafe.loseField("Empresa", "Bairro");
+        sell("");
+        QCOMPARE(pdfLines(counter.machine.openedDocuments.last()).filter("CNPJ: 12.345.678/0001-95").size(), 2);
         counter.machine.breakPrinter();
         for (const QString port : {"", "/dev/null/receipt"}) {
             counter.cafe.setIni("Matricial", "Ativo", port.isEmpty() ? "0" : "1");
