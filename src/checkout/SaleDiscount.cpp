@@ -20,9 +20,11 @@
 namespace {
 constexpr QSize motivePictureSize(20, 20);
 
-bool isAboveZero(const FieldValue &value)
+bool isAboveZero(const Recordset &rs, const QString &field)
 {
-    return !value.isNull() && value.number() > 0;
+    bool above = false;
+    OnErrorResumeNext([&] { above = rs.Fields(field).number() > 0; });
+    return above;
 }
 } // namespace
 
@@ -44,20 +46,17 @@ SaleDiscount::SaleDiscount(const Controls &controls, const Texts &texts, QObject
 void SaleDiscount::Listar_Motivos_Descontos()
 {
     const QString standard = Ler_INI(caminhoConfig(), "Descontos", "Padrao").toUpper();
-    int position = 0;
-    OnErrorResumeNext([&] {
-        Abrir_Banco_Principal();
-        RecordsetHandle rs;
-        rs =
-            Abrir_Recordset(rs, BancoPrincipal, QString("Select * from Descontos Where Codigo>0") + " Order By Codigo");
-        for (; rs && !rs->Eof(); rs->MoveNext()) {
-            ui.txtmotivo->addItem(rs->Fields("Codigo").text());
-            if (rs->Fields("Motivo_Desconto").text().toUpper() == standard)
-                position = ui.txtmotivo->count() - 1;
-        }
-        Fechar_Recordset(rs);
-    });
-    ui.txtmotivo->setCurrentIndex(position);
+    Abrir_Banco_Principal();
+    RecordsetHandle rs;
+    Abrir_Recordset(rs, BancoPrincipal, QString("Select * from Descontos Where Codigo>0") + " Order By Codigo");
+    for (; rs && !rs->Eof(); rs->MoveNext())
+        OnErrorResumeNext([&] { ui.txtmotivo->addItem(rs->Fields("Codigo").text()); },
+                          [&] {
+                              if (rs->Fields("Motivo_Desconto").text().toUpper() == standard)
+                                  m_defaultMotive = ui.txtmotivo->count() - 1;
+                          });
+    Fechar_Recordset(rs);
+    ui.txtmotivo->setCurrentIndex(m_defaultMotive);
     txtmotivo_Click();
 }
 
@@ -87,13 +86,14 @@ bool SaleDiscount::pickRule(const QString &sql)
         RecordsetHandle rs;
         rs = Abrir_Recordset(rs, BancoPrincipal, sql);
         for (; rs && !rs->Eof() && code.isEmpty(); rs->MoveNext())
-            if (isAboveZero(rs->Fields("Relativo")) || isAboveZero(rs->Fields("Absoluto")))
+            if (isAboveZero(*rs, "Relativo") || isAboveZero(*rs, "Absoluto"))
                 code = rs->Fields("Codigo").text();
         Fechar_Recordset(rs);
     });
     if (code.isEmpty())
         return false;
-    ui.txtmotivo->setCurrentText(code);
+    // A rule that was made while the window is open is in no list, and counts all the same.
+    ui.txtmotivo->setText(code);
     txtmotivo_Click();
     ui.chkdesconto->setChecked(true);
     ui.chkdesconto->setEnabled(false);
@@ -148,9 +148,14 @@ bool SaleDiscount::ruleRefuses() const
     return refuses;
 }
 
+double SaleDiscount::motive() const
+{
+    return Val(QStringView(ui.txtmotivo->Text()));
+}
+
 quint8 SaleDiscount::motiveCode() const
 {
-    const double code = Val(QStringView(ui.txtmotivo->currentText()));
+    const double code = motive();
     if (code < 0 || code > 255)
         throw RunTimeError(ErrorNumber::Overflow, "The number of a motive is a byte.");
     return static_cast<quint8>(code);
@@ -160,7 +165,7 @@ void SaleDiscount::txtmotivo_Click()
 {
     if (ui.txtmotivo->count() == 0)
         return;
-    const double code = Val(QStringView(ui.txtmotivo->currentText()));
+    const double code = motive();
     if (Tem_Desconto_Fixo(code)) {
         ui.txtvalor_desconto->setText(Cstr(Valor_Desconto_Fixo(code, Total_Venda)));
         ui.txtvalor_desconto->setEnabled(false);
@@ -171,13 +176,23 @@ void SaleDiscount::txtmotivo_Click()
     ui.txtvalor_desconto->setEnabled(true);
 }
 
+void SaleDiscount::beginAnew()
+{
+    ui.chkdesconto->setEnabled(true);
+    ui.chkdesconto->setChecked(false);
+    Desconto_Marcado = false;
+    ui.txtvalor_desconto->setText({});
+    ui.txtmotivo->setCurrentIndex(m_defaultMotive);
+    txtmotivo_Click();
+}
+
 void SaleDiscount::recalculate()
 {
     if (Bloqueio_Desconto)
         return;
     const QString typed = ui.txtvalor_desconto->text();
     if (ui.txtmotivo->count() > 0) {
-        Motivo_Fixo = Tem_Desconto_Fixo(Val(QStringView(ui.txtmotivo->currentText())));
+        Motivo_Fixo = Tem_Desconto_Fixo(motive());
         if (!Motivo_Fixo && !typed.isEmpty())
             ui.chkdesconto->setChecked(true);
     }
@@ -206,7 +221,7 @@ void SaleDiscount::chkdesconto_Click()
 
 void SaleDiscount::imgdesconto_Click() const
 {
-    const QString code = ui.txtmotivo->currentText();
+    const QString code = ui.txtmotivo->Text();
     const QString motive = chosenMotive();
     const QString text =
         motive.isEmpty() ? code + textoIdioma(m_texts.section, m_texts.unknownMotive) : code + " - " + motive;

@@ -66,6 +66,9 @@ public:
     /// Whether the rule in the combo refuses the total.
     bool ruleRefuses() const;
 
+    /// Forgets the discount of the buyer before: no tick, no amount, the café's default motive.
+    void beginAnew();
+
     /// What a pick in the combo does, called by name when the program sets it or the total has moved.
     void txtmotivo_Click();
 
@@ -74,6 +77,8 @@ public:
 
 private:
     bool pickRule(const QString &sql);
+    /// Number of the rule in the combo, 0 for none.
+    double motive() const;
     /// Number of the rule in the combo, as a byte. Raises for a number that is none.
     quint8 motiveCode() const;
     /// The motive of a rule: empty without such a rule, eleven hyphens without any rule in the combo.
@@ -83,4 +88,5 @@ private:
 
     Controls ui;
     Texts m_texts;
+    int m_defaultMotive = 0;
 };

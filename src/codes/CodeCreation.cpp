@@ -13,9 +13,18 @@
 #include "platform/window/Prompts.h"
 #include "ui_frmcodigo_rapido.h"
 
+#include <algorithm>
+
 namespace {
 constexpr int codeLength = 12;
 constexpr quint8 stored = 255;
+
+/// Letter by letter, so that a link is as long as its code: as a whole "ß" would become two letters.
+QString upperCode(QString code)
+{
+    std::transform(code.cbegin(), code.cend(), code.begin(), [](QChar letter) { return letter.toUpper(); });
+    return code;
+}
 } // namespace
 
 CodeCreation::CodeCreation(Form &form, Ui::frmcodigo_rapido &window, CodeState &state)
@@ -77,13 +86,13 @@ void CodeCreation::Cadastrar_Codigo(quint8 &ok)
 void CodeCreation::Vincular_Codigo(const QString &codigo, const QString &nome)
 {
     OnErrorGoToEnd([&] {
-        const QString thisCode = "Where Codigo_Acesso='" + codigo.toUpper() + "'";
+        const QString thisCode = "Where Codigo_Acesso='" + upperCode(codigo) + "'";
         QString status;
-        readFirstRow("Select * From Codigo_Acesso " + thisCode,
-                     [&](const Recordset &rs) { status = rs.Fields("Status").text(); });
+        OrRaise::readFirstRow("Select * From Codigo_Acesso " + thisCode,
+                              [&](const Recordset &rs) { status = rs.Fields("Status").text(); });
         if (status == "S")
             return say("MsgBox5");
-        if (hasRow("Select Codigo_Acesso From Codigo_Acesso " + thisCode + " And Vendido=True") &&
+        if (OrRaise::hasRow("Select Codigo_Acesso From Codigo_Acesso " + thisCode + " And Vendido=True") &&
             !codeTexts.confirms("MsgBox6", "MsgBox1_2", vbInformation))
             return;
         storeLink(codigo, nome);
@@ -96,5 +105,5 @@ void CodeCreation::storeLink(const QString &codigo, const QString &nome)
 {
     m_state.Proximo_Codigo = keyBehind("Select Max(Codigo) From Links");
     executeStatement("Insert into Links (Codigo, Nome, Codigo_Acesso) values (" + Cstr(m_state.Proximo_Codigo) + ",'" +
-                     nome.toUpper() + "','" + codigo.toUpper() + "')");
+                     nome.toUpper() + "','" + upperCode(codigo) + "')");
 }

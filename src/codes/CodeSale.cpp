@@ -59,7 +59,7 @@ bool CodeSale::prepare()
         return false;
     }
     // The customer got a code elsewhere while this window was open.
-    if (Tem_Link(m_state.Nome_Cliente)) {
+    if (Tem_Link(m_state.Nome_Cliente.toUpper())) {
         refuse("MsgBox9");
         m_form.Unload();
         return false;

@@ -5,6 +5,7 @@
 /// What the window of the access codes knows of the sale under way beside its discount.
 struct CodeState
 {
+    /// As they were typed; the tables hold them in capitals.
     QString Nome_Cliente;
     QString Nick_Cliente;
     /// "E" for a code that is paid before, "I" for one that is paid after.

@@ -93,11 +93,17 @@ void frmcodigo_rapido::Form_Load()
 
 void frmcodigo_rapido::Venda_ao_Cliente(const QString &Nome, const QString &Nick)
 {
+    const bool tookOver = !m_state.Nome_Cliente.isEmpty();
     m_state.Nome_Cliente = Nome;
     m_state.Nick_Cliente = Nick;
+    // The window was still open for somebody else, whose discount is no business of this customer's.
+    if (tookOver) {
+        m_discount->beginAnew();
+        lbltotal_Change();
+    }
     ui->lblcliente->setText(Nome.toUpper());
     fitToContents();
-    readFirstRow("Select Codigo From Clientes Where Nome='" + Nome + "'", [&](const Recordset &rs) {
+    readFirstRow("Select Codigo From Clientes Where Nome='" + Nome.toUpper() + "'", [&](const Recordset &rs) {
         const QString code = rs.Fields("Codigo").text();
         ui->txtadi_cartao->setText(code);
         ui->lblcodigo->setText(codeTexts.loaded("String2") + code);
@@ -149,6 +155,6 @@ void frmcodigo_rapido::txtvalor_disponível_Change()
 void frmcodigo_rapido::lbltotal_Change()
 {
     m_discount->TratarDescontosAutomaticos(amountText(m_discount->Total_Venda),
-                                           codeRuleConditions(Grupo_Do_Cliente(m_state.Nome_Cliente)));
+                                           codeRuleConditions(Grupo_Do_Cliente(m_state.Nome_Cliente.toUpper())));
     m_discount->recalculate();
 }

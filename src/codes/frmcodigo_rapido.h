@@ -21,7 +21,7 @@ public:
     frmcodigo_rapido();
     ~frmcodigo_rapido() override;
 
-    /// Whose code it is; the customer's number is the first proposal for it.
+    /// Whose code it is, the name as it was typed; the customer's number is the first proposal for it.
     void Venda_ao_Cliente(const QString &Nome, const QString &Nick);
 
 protected:

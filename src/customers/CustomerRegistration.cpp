@@ -34,7 +34,7 @@ void CustomerRegistration::cmdok_Click()
     OnErrorGoToEnd([&] {
         if (isNameTaken(ui) || isNickTaken(ui) || isDocumentTaken(ui))
             return;
-        const double codigo = keyBehind("Select Max(codigo) From Clientes");
+        const double codigo = OrRaise::keyBehind("Select Max(codigo) From Clientes");
         checkedTheDate = fillPlaceholders();
         if (!checkedTheDate || isBornLater())
             return;
@@ -71,8 +71,8 @@ bool CustomerRegistration::isBornLater()
 
 void CustomerRegistration::store(double codigo)
 {
-    const QString name = ui.txtnome->text().toUpper();
-    const QString nick = ui.txtnick->text().toUpper();
+    const QString name = ui.txtnome->text();
+    const QString nick = ui.txtnick->text();
     m_state.Autorizado = ui.chkautorização->isChecked() ? 1 : 0;
     m_photo.keepWebcamPicture(codigo);
     executeStatement(insertStatement(ui, m_state, codigo));
@@ -91,7 +91,7 @@ void CustomerRegistration::store(double codigo)
 
 void CustomerRegistration::sellCode(const QString &name, const QString &nick)
 {
-    if (Tem_Link(name)) {
+    if (Tem_Link(name.toUpper())) {
         customerTexts.notice("MsgBox3");
         return;
     }
