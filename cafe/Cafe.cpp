@@ -10,6 +10,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace {
 
@@ -117,17 +118,21 @@ QStringList upgradeCafe(const QString &folder)
     if (db->schemaVersion() == 0)
         throw RunTimeError(ErrorNumber::InvalidProcedureCall,
                            folder + ": another program made the data file, whose design stays its own");
-    QStringList doubtful;
+    QStringList read;
     const QStringList fields{"Relativo", "Absoluto"};
+    static const QRegularExpression digits("^[0-9]+$");
     for (const RecordsetHandle rs =
              db->OpenRecordset("Select Codigo," + fields.join(',') + " From Descontos Order By Codigo");
          !rs->Eof(); rs->MoveNext())
-        for (const QString &field : fields)
-            if (const FieldValue value = rs->Fields(field); !value.isNull() && !IsNumeric(value.text()))
-                doubtful += QString("discount rule %1: %2 \"%3\" is no number here and is read as %4")
-                                .arg(rs->Fields(0).text(), field, value.text(), Cstr(Val(value.utf8())));
+        for (const QString &field : fields) {
+            const FieldValue value = rs->Fields(field);
+            const QString text = value.text();
+            if (value.kind() == FieldValue::Kind::Text && !digits.match(text).hasMatch())
+                read += QString("Discount rule %1: %2 \"%3\" is read as %4.")
+                            .arg(rs->Fields(0).text(), field, text, Cstr(readNumber(text).value_or(Val(text))));
+        }
     db->applySchema(esquemaDoBanco());
-    return doubtful;
+    return read;
 }
 
 void backupCafe(const QString &folder, const QString &file)

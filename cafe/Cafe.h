@@ -55,7 +55,7 @@ QString pointAt(const QString &folder, PointFor whom);
 QStringList checkCafe(const QString &folder);
 
 /// Brings the design of a data file up to date that this tool made before. The answer names, a line each, the texts
-/// that are no numbers by this computer's regional settings, and the numbers that they become.
+/// that not every computer reads alike, and the numbers that they are by this computer's regional settings.
 QStringList upgradeCafe(const QString &folder);
 
 /// Writes a consistent, encrypted copy of the data file while terminals work on it.

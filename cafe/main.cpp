@@ -143,8 +143,8 @@ int runCheck(const QCommandLineParser &, const QStringList &arguments)
 
 int runUpgrade(const QCommandLineParser &, const QStringList &arguments)
 {
-    for (const QString &doubtful : upgradeCafe(arguments[0]))
-        complain(doubtful);
+    for (const QString &line : upgradeCafe(arguments[0]))
+        out() << line << '\n';
     out() << "The data file is up to date.\n";
     return Ok;
 }

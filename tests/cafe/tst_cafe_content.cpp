@@ -96,7 +96,9 @@ private slots:
         for (const char *row : {"1,'8,5','0'", "2,'10%',''"})
             db->Execute("Insert into Descontos (Codigo,Relativo,Absoluto) values (" + QString(row) + ")");
         QCOMPARE(checkCafe(folder), QStringList());
-        QCOMPARE(upgradeCafe(folder).size(), 2);
+        QCOMPARE(upgradeCafe(folder), QStringList({"Discount rule 1: Relativo \"8,5\" is read as 8,5.",
+                                                   "Discount rule 2: Relativo \"10%\" is read as 10.",
+                                                   "Discount rule 2: Absoluto \"\" is read as 0."}));
         QCOMPARE(column(*openDataFile(folder), "Select Relativo From Descontos Where Absoluto=0 Order By Codigo"),
                  QStringList({"8,5", "10"}));
         QCOMPARE(checkCafe(folder) + upgradeCafe(folder), QStringList());
