@@ -64,8 +64,8 @@ void SaleCustomers::Listar_Clientes()
     // Another terminal may have registered a customer since the count; the list holds those that were counted.
     for (int row = 1; rs && !rs->Eof() && row <= count; rs->MoveNext(), ++row) {
         LongWork::goOn();
-        for (const auto &[column, field] : fields)
-            OnErrorResumeNext([&] { grid.setTextMatrix(row, column, rs->Fields(field).text()); });
+        for (const auto &each : fields)
+            OnErrorResumeNext([&] { grid.setTextMatrix(row, each.first, rs->Fields(each.second).text()); });
     }
     Fechar_Recordset(rs);
 }
