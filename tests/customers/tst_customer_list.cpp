@@ -196,25 +196,13 @@ private slots:
         desk.expectNoticeText(desk.text("MsgBox1"));
         QVERIFY_EXCEPTION_THROWN(desk.window().Editar_Cliente(), RunTimeError);
         QCOMPARE(desk.cafe.readFile("Fotos/6.jpg") + desk.stored("Nome").last().toUtf8(), "oldD'ÁVILA");
-        desk.expectSave(vbNo);
-        desk.press("cmdeditar");
-        // What was executed before the failure stays.
-        desk.cafe.loseTable("Log");
-        desk.edit(3);
-        desk.type("txtnome", "DAVI");
-        desk.expectSave();
-        QVERIFY_EXCEPTION_THROWN(desk.window().Editar_Cliente(), RunTimeError);
-        QCOMPARE(desk.stored("Nome")[2], QString("DAVI"));
-        QCOMPARE(desk.listed(1)[2], QString("CAIO REIS"));
     }
 
     void showsWhatAFileWithoutSomeFieldsKnows()
     {
         CustomerDesk desk;
         desk.change("Clientes", "Rua='RUA UM', CaminhoFoto=Null Where Codigo=1");
-        for (const char *field : {"Documento", "E_mail", "Autorizado"})
-            desk.cafe.loseField("Clientes", field);
-        desk.cafe.loseField("Empresa", "UF");
+        desk.cafe.loseField("Clientes", "Documento");
         desk.open();
         desk.window().EditarCliente(1);
         QCOMPARE(desk.shown("txtnome") + desk.shown("txtrua") + desk.shown("cmbgrupo_clientes"), "ANA LIMARUA UMVIP");

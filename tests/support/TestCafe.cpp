@@ -86,12 +86,11 @@ QStringList TestCafe::query(const QString &sql)
 
 void TestCafe::loseField(const QString &table, const QString &field)
 {
-    renameField(dataFile(), textoConexao().section('=', 1), table, field);
-}
-
-void TestCafe::loseTable(const QString &table)
-{
-    runEngineSql(dataFile(), textoConexao().section('=', 1), "ALTER TABLE " + table + " RENAME TO old");
+    static int version = 9000;
+    const QString sql =
+        "PRAGMA writable_schema = ON; UPDATE sqlite_master SET sql = replace(sql, '\"%1\"', '\"%1 old\"')"
+        " WHERE tbl_name = '%2'; PRAGMA schema_version = %3";
+    runEngineSql(dataFile(), textoConexao().section('=', 1), sql.arg(field, table).arg(++version));
 }
 
 void TestCafe::executeAll(const QStringList &statements)

@@ -39,9 +39,8 @@ public:
     /// The first row; empty when there is none.
     QString value(const QString &sql) { return query(sql).value(0); }
     void execute(const QString &sql) { database().Execute(sql); }
-    /// Takes a field away, or a whole table, as another program may.
+    /// Gives a field another name, as another program may, so that terminals miss it.
     void loseField(const QString &table, const QString &field);
-    void loseTable(const QString &table);
     /// Many statements as one, for speed.
     void executeAll(const QStringList &statements);
 

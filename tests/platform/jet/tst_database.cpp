@@ -67,35 +67,22 @@ private slots:
         // What other programs gave the table stays with it.
         file.run(
             "ALTER TABLE Produtos ADD COLUMN Nota VARCHAR(9) DEFAULT 'n'; CREATE INDEX own ON produtos (Nota);"
-            "CREATE TRIGGER [own trigger] AFTER DELETE ON Produtos BEGIN INSERT INTO Vendas (Codigo) VALUES (9); END;"
-            "CREATE VIEW Caros AS SELECT * FROM Produtos");
+            "CREATE TRIGGER [own trigger] AFTER DELETE ON Produtos BEGIN INSERT INTO Vendas (Codigo) VALUES (9); END");
         for (const char *row : {"5,'8,5'", "2,'10%'", "3,'x'", "4,Null", "7,'1.000,25'"})
             file.db->Execute("Insert into Produtos (Codigo,Valor) values (" + QString(row) + ")");
         const QList<SchemaStep> steps{{2, {}, {{"produtos", {"valor"}}}}};
-        QVERIFY(errorOf([&] {
-            file.db->applySchema({{2, {}, {steps[0].NewNumbers[0], {"Vendas", {"X"}}, {"X", {}}}}});
-        }));
+        QVERIFY(errorOf([&] { file.db->applySchema({{2, {}, {steps[0].NewNumbers[0], {"X", {}}}}}); }));
         for (const DatabaseHandle &db : {file.db, file.open()}) {
             db->applySchema(steps);
             QCOMPARE(DataFile::answer(db, "Select Codigo,Valor,Nota,Servico From Produtos"),
                      "5|8,5|n|False 2|10|n|False 3|0|n|False 4|~|n|False 7|1000,25|n|False");
         }
-        QCOMPARE(file.answer("Select Codigo From Produtos Where Valor>8 And Valor<11 Order By Valor Desc"), "2 5");
-        QCOMPARE(errorOf([&] { file.db->Execute("Insert into Produtos (Codigo) values (5)"); }),
-                 ErrorNumber::DuplicateKey);
+        QCOMPARE(file.answer("Select Codigo From Produtos Where Valor>8 Order By Valor"), "5 2 7");
+        QVERIFY(errorOf([&] { file.db->Execute("Insert into Produtos (Codigo,Valor) values (8,'x')"); }));
+        QVERIFY(errorOf([&] { file.db->Execute("Insert into Produtos (Codigo) values (5)"); }));
         QVERIFY(errorOf([&] { file.run("CREATE INDEX own ON Vendas (Codigo)"); }));
         file.db->Execute("Delete from Produtos Where Codigo=5");
         QCOMPARE(file.answer("Select Codigo From Vendas"), "9");
-
-        // Whatever region writes to the field, the number is one.
-        for (const auto &[region, text] : {std::pair("pt_BR", "8,5"), {"en_US", "8.5"}}) {
-            RegionalSettings::use(QLocale(region));
-            file.db->Execute("Update Produtos Set Valor='" + QString(text) + "'");
-            QCOMPARE(file.answer("Select Valor From Produtos Where Codigo=4 And Valor=8.5"), text);
-            for (const char *none : {"x", ""})
-                QCOMPARE(errorOf([&] { file.db->Execute("Update Produtos Set Valor='" + QString(none) + "'"); }),
-                         ErrorNumber::TypeMismatch);
-        }
     }
 
     void renumbersOrRefusesATakenKey()
