@@ -9,11 +9,17 @@
 
 OpenFile::OpenFile(FileAccess access) : m_access(std::move(access))
 {
+    const LongWork work;
     openSession();
 }
 
 std::shared_ptr<EngineSession> OpenFile::openSession()
 {
+    if (m_session && !m_session->reachesItsFile()) {
+        if (m_inTransaction)
+            throw RunTimeError(ErrorNumber::DiskError, QString("\"%1\" was exchanged.").arg(m_access.path));
+        m_session.reset();
+    }
     if (!m_session) {
         FileAccess access = m_access;
         access.path = resolveIgnoringCase(access.path);
@@ -58,16 +64,17 @@ QList<TableDef> OpenFile::tables()
 
 void OpenFile::inTransaction(const std::function<void()> &body)
 {
-    use([&](EngineSession &session) {
-        session.begin();
-        m_inTransaction = true;
-        const auto leave = qScopeGuard([this] { m_inTransaction = false; });
-        try {
-            body();
-            session.commit();
-        } catch (...) {
-            OnErrorResumeNext([&] { session.rollback(); });
-            throw;
-        }
+    use([](EngineSession &session) { session.begin(); });
+    m_inTransaction = true;
+    const auto leave = qScopeGuard([this] {
+        m_inTransaction = false;
+        forgetLostSession();
     });
+    try {
+        body();
+        openSession()->commit();
+    } catch (...) {
+        OnErrorResumeNext([this] { m_session->rollback(); });
+        throw;
+    }
 }

@@ -98,6 +98,33 @@ private slots:
         QCOMPARE(file.answer("Select Codigo From Vendas"), "7 8");
     }
 
+    void servesABackupThatTakesItsPlace()
+    {
+        const DataFile backup;
+        backup.db->Execute("Insert into Vendas (Codigo,Nome) values (5,'antes')");
+        backup.db->Close();
+        const DataFile file;
+        // Another file by the same name, and another content in the same file, which tells of itself at the first read.
+        for (const bool inPlace : {false, true}) {
+            if (!inPlace)
+                QVERIFY(QFile::rename(file.path(), file.path("velho.mdb")));
+            file.write("Dados.mdb", backup.bytes());
+            QCOMPARE(file.answer("Select * From Vendas"), "5|antes|False");
+            file.write("Dados.mdb", DataFile().bytes());
+            file.db->Execute("Insert into Vendas (Codigo) values (6)");
+            QCOMPARE(file.answer("Select Codigo From Vendas"), "6");
+        }
+        // What a transaction began on one file isn't ended on another.
+        QVERIFY(errorOf([&] {
+                    file.db->inTransaction([&] {
+                        QVERIFY(QFile::remove(file.path()));
+                        file.write("Dados.mdb", backup.bytes());
+                        errorOf([&] { file.db->Execute("Insert into Vendas (Codigo) values (7)"); });
+                    });
+                }) != 0);
+        QCOMPARE(file.answer("Select Codigo From Vendas"), "5");
+    }
+
     void losesNoHalfTransaction()
     {
         const DataFile file;

@@ -30,6 +30,9 @@ public:
 
     /// False once the file is out of reach, damaged or exchanged for another: the session is of no more use.
     virtual bool isAlive() const = 0;
+    /// To be asked before an operation. False when another file lies at the path now; raises DiskError when none does.
+    /// In both cases the session is of no more use.
+    virtual bool reachesItsFile() = 0;
 
     virtual Catalogue readCatalogue() = 0;
     /// Reads the whole answer, so that no lock stays behind.

@@ -143,15 +143,15 @@ void SqlCipherConnection::setUp(Mode mode)
     }
 }
 
-void SqlCipherConnection::requireSameFile()
+bool SqlCipherConnection::reachesItsFile()
 {
-    if (!m_lost) {
-        struct stat status = {};
-        const bool found = ::stat(QFile::encodeName(m_access.path).constData(), &status) == 0;
-        m_lost = !found || status.st_dev != m_device || status.st_ino != m_inode || status.st_size == 0;
-    }
-    if (m_lost)
+    struct stat status = {};
+    if (m_lost || ::stat(QFile::encodeName(m_access.path).constData(), &status) != 0 || status.st_size == 0) {
+        m_lost = true;
         throw RunTimeError(ErrorNumber::DiskError, QString("\"%1\" is no longer there.").arg(m_access.path));
+    }
+    m_lost = status.st_dev != m_device || status.st_ino != m_inode;
+    return !m_lost;
 }
 
 void SqlCipherConnection::run(const std::string &sql)

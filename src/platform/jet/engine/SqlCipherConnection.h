@@ -50,8 +50,8 @@ public:
     const FileAccess &access() const { return m_access; }
     bool isLost() const { return m_lost; }
     void markLost() { m_lost = true; }
-    /// Raises when the path no longer leads to the file that was opened.
-    void requireSameFile();
+    /// See EngineSession::reachesItsFile.
+    bool reachesItsFile();
 
     /// Runs a statement of the engine's own.
     void run(const std::string &sql);

@@ -81,13 +81,11 @@ private:
 
 Catalogue SqlCipherSession::readCatalogue()
 {
-    m_connection.requireSameFile();
     return readSqlCipherCatalogue(m_connection);
 }
 
 RowStore SqlCipherSession::query(const SelectStatement &select)
 {
-    m_connection.requireSameFile();
     const RenderedStatement rendered = renderSelect(select);
     fillLongLists(rendered);
     const SqlCipherRun run(prepared(rendered));
@@ -100,7 +98,6 @@ RowStore SqlCipherSession::query(const SelectStatement &select)
 
 void SqlCipherSession::execute(const Statement &statement)
 {
-    m_connection.requireSameFile();
     const RenderedStatement rendered = renderStatement(statement);
     fillLongLists(rendered);
     const SqlCipherRun run(prepared(rendered));
@@ -137,13 +134,11 @@ void SqlCipherSession::fillLongLists(const RenderedStatement &rendered)
 
 void SqlCipherSession::begin()
 {
-    m_connection.requireSameFile();
     m_connection.run("BEGIN IMMEDIATE");
 }
 
 void SqlCipherSession::commit()
 {
-    m_connection.requireSameFile();
     m_connection.run("COMMIT");
 }
 
@@ -154,7 +149,6 @@ void SqlCipherSession::rollback()
 
 int SqlCipherSession::schemaVersion()
 {
-    m_connection.requireSameFile();
     const SqlCipherConnection::Prepared statement = m_connection.compile("PRAGMA user_version");
     m_connection.step(statement.get());
     return sqlite3_column_int(statement.get(), 0);
@@ -167,19 +161,16 @@ void SqlCipherSession::setSchemaVersion(int version)
 
 void SqlCipherSession::createTable(const TableDef &table)
 {
-    m_connection.requireSameFile();
     createSqlCipherTable(m_connection, table);
 }
 
 void SqlCipherSession::turnIntoNumbers(const FieldsToNumbers &change)
 {
-    m_connection.requireSameFile();
     turnSqlCipherFields(m_connection, change);
 }
 
 QStringList SqlCipherSession::faults()
 {
-    m_connection.requireSameFile();
     QStringList found;
     try {
         const SqlCipherConnection::Prepared check = m_connection.compile("PRAGMA integrity_check");
@@ -198,7 +189,6 @@ QStringList SqlCipherSession::faults()
 
 void SqlCipherSession::repair()
 {
-    m_connection.requireSameFile();
     m_connection.run("REINDEX");
     const QStringList left = faults();
     if (!left.isEmpty())
@@ -207,12 +197,10 @@ void SqlCipherSession::repair()
 
 void SqlCipherSession::compact()
 {
-    m_connection.requireSameFile();
     m_connection.run("VACUUM");
 }
 
 void SqlCipherSession::backupTo(const QString &path)
 {
-    m_connection.requireSameFile();
     backupSqlCipherFile(m_connection, path);
 }

@@ -11,6 +11,7 @@ public:
     explicit SqlCipherSession(const FileAccess &access) : m_connection(access) {}
 
     bool isAlive() const override { return !m_connection.isLost(); }
+    bool reachesItsFile() override { return m_connection.reachesItsFile(); }
     Catalogue readCatalogue() override;
     RowStore query(const SelectStatement &select) override;
     void execute(const Statement &statement) override;
