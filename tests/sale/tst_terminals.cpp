@@ -4,9 +4,12 @@
 #include "platform/window/Forms.h"
 #include "shell/frmprincipal.h"
 #include "tests/sale/SaleCounter.h"
+#include "tests/support/FileHolder.h"
 
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QTest>
+#include <QTimer>
 
 #include <iostream>
 #include <string>
@@ -54,6 +57,22 @@ int runTerminal(const QString &programFolder, int carts)
     shell.Unload();
     return EXIT_SUCCESS;
 }
+
+/// How often a control was drawn.
+class Paints : public QObject
+{
+public:
+    explicit Paints(QObject &control) { control.installEventFilter(this); }
+    int count() const { return m_count; }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        m_count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
 } // namespace
 
 /// Terminals as processes of their own on one café.
@@ -116,6 +135,47 @@ private slots:
         QCOMPARE(counter.sold("Nome").count("ANA LIMA"), 1);
         QCOMPARE(counter.sold("Codigo").size(), elsewhere + 1);
         QCOMPARE(counter.stock("BALA"), QString("4"));
+    }
+
+    void waitsOnceForAPress()
+    {
+        SaleCounter counter;
+        counter.open();
+        std::optional<FileHolder> holder;
+        int drawn = 0;
+        // Another program takes the file while the question is open. `drawn` is counted until events run again.
+        const auto sellWhileHeld = [&](int milliseconds) {
+            counter.put("BALA");
+            counter.type("txtvalor_pago", "10");
+            counter.attendant.expect("Confirma a venda no valor de R$ 10,00, paga por\nANA LIMA?",
+                                     vbYesNo + vbInformation, "Atenção", vbYes, [&] {
+                                         holder.emplace(counter.cafe.dataFile(), milliseconds);
+                                         auto *paints = new Paints(counter.at("cmdfinalizar"));
+                                         counter.at("cmdfinalizar").update();
+                                         QTimer::singleShot(0, paints, [&, paints] {
+                                             drawn = paints->count();
+                                             delete paints;
+                                         });
+                                     });
+            counter.expectNotice("MsgBox13");
+            QElapsedTimer freeze;
+            freeze.start();
+            counter.press("cmdfinalizar");
+            const auto frozen = freeze.elapsed();
+            holder.reset();
+            return frozen;
+        };
+        QVERIFY(sellWhileHeld(2000) >= 2000);
+        QCOMPARE(counter.sold("Nome"), QStringList{"ANA LIMA"});
+        QVERIFY(drawn > 0);
+
+        // A dozen statements fail, the sale is told as stored as ever, and all of them have shared one patience.
+        const auto frozen = sellWhileHeld(60'000);
+        QVERIFY2(frozen > 14'000 && frozen < 20'000, qPrintable(QString::number(frozen)));
+        QCOMPARE(counter.sold("Nome").size(), 1);
+        // The next press has its own.
+        sellWhileHeld(1000);
+        QCOMPARE(counter.sold("Nome").size(), 2);
     }
 
 private:

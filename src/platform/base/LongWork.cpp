@@ -23,15 +23,15 @@ LongWork::LongWork()
 LongWork::~LongWork()
 {
     if (--depth == 0 && due > firstAfterMilliseconds && shownBy)
-        shownBy(false);
+        shownBy(Life::Ended);
 }
 
-void LongWork::goOn()
+void LongWork::goOn(Life life)
 {
     if (depth == 0 || elapsed.elapsed() < due)
         return;
     if (shownBy)
-        shownBy(true);
+        shownBy(life);
     due = elapsed.elapsed() + nextAfterMilliseconds;
 }
 

@@ -13,9 +13,15 @@ public:
     ~LongWork();
     Q_DISABLE_COPY_MOVE(LongWork)
 
-    static void goOn();
+    enum class Life
+    {
+        Works,
+        Waits, ///< for others, see `Patience`: time enough to draw what is behind the sign, too
+        Ended
+    };
+    static void goOn(Life life = Life::Works);
 
-    /// What draws the sign's next picture, or takes it away when the work is done.
-    using Sign = std::function<void(bool working)>;
+    /// What draws the sign's next picture, or takes it away when the work has ended.
+    using Sign = std::function<void(Life life)>;
     static void setSign(const Sign &sign);
 };

@@ -1,8 +1,8 @@
 #include "platform/window/Application.h"
 
 #include "platform/base/Err.h"
-#include "platform/base/LongWork.h"
 #include "platform/base/Machine.h"
+#include "platform/base/Patience.h"
 #include "platform/files/PointerFile.h"
 #include "platform/media/CameraModule.h"
 #include "platform/window/BusySign.h"
@@ -16,6 +16,30 @@
 #include <cstdlib>
 #include <utility>
 
+namespace {
+/// What the attendant does. All other events follow from it, such as the window that a press opens becoming active.
+bool isPress(const QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::TouchBegin:
+    case QEvent::TabletPress:
+    case QEvent::Wheel:
+    case QEvent::Drop:
+    case QEvent::Close:
+        // The program sends such events too, in the midst of a press.
+        return event.spontaneous();
+    case QEvent::Shortcut:
+        return true;
+    default:
+        return false;
+    }
+}
+} // namespace
+
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
     setApplicationName("morvelane-auxiliar");
@@ -24,6 +48,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setQuitOnLastWindowClosed(false);
     applyLook(*this);
     LongWork::setSign(showBusySign);
+    Patience::renew();
 
     auto *translator = new QTranslator(this);
     if (translator->load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
@@ -38,6 +63,10 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 
 bool Application::notify(QObject *receiver, QEvent *event)
 {
+    // Also where a routine waits and lets events run: whoever presses anew is ready to wait anew, and what the routine
+    // does afterwards follows from that press.
+    if (isPress(*event))
+        Patience::renew();
     try {
         return QApplication::notify(receiver, event);
     } catch (const RunTimeError &error) {

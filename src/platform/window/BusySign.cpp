@@ -3,22 +3,37 @@
 #include "platform/window/Forms.h"
 
 #include <QApplication>
+#include <QExposeEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QWindow>
 
 namespace {
 constexpr int stripHeight = 4;
 constexpr int steps = 20;
 constexpr int stepsOfBar = 5;
 
+/// Brings all windows to the screen once more: that one of them was uncovered stays unread as long as no events run.
+void refreshWindows()
+{
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible() || !window->windowHandle())
+            continue;
+        QExposeEvent uncovered(window->rect());
+        QCoreApplication::sendEvent(window->windowHandle(), &uncovered);
+    }
+}
+
 class BusyStrip : public QWidget
 {
 public:
     using QWidget::QWidget;
 
-    void goOn()
+    void goOn(bool withWindows)
     {
         m_step = (m_step + 1) % steps;
+        if (withWindows && m_step % stepsOfBar == 1)
+            refreshWindows();
         setGeometry(0, window()->height() - stripHeight, window()->width(), stripHeight);
         show();
         raise();
@@ -51,10 +66,10 @@ QWidget *windowInFront()
 }
 } // namespace
 
-void showBusySign(bool working)
+void showBusySign(LongWork::Life life)
 {
     static QPointer<BusyStrip> strip;
-    if (!working) {
+    if (life == LongWork::Life::Ended) {
         delete strip;
         return;
     }
@@ -65,5 +80,5 @@ void showBusySign(bool working)
             return;
         strip = shown = new BusyStrip(window);
     }
-    shown->goOn();
+    shown->goOn(life == LongWork::Life::Waits);
 }

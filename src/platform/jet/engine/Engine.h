@@ -20,6 +20,10 @@ struct FileAccess
 
 /// One open data file behind a storage engine. Statements come bound to the file's catalogue. Every operation raises a
 /// RunTimeError when the file, the statement or a value is at fault.
+///
+/// Where others hold the file, opening it and every operation wait by `Patience::waitForOthers`, which knows how long
+/// and gives the sign of life, and raise FileLocked when it answers no. An operation that takes long by itself calls
+/// `LongWork::goOn` on the way.
 class EngineSession
 {
 public:

@@ -2,24 +2,17 @@
 
 #include "platform/base/Err.h"
 #include "platform/base/LongWork.h"
+#include "platform/base/Patience.h"
 #include "platform/jet/engine/SqlCipherFunctions.h"
 
 #include <QFile>
 
 #include <sys/stat.h>
-#include <unistd.h>
-
-#include <algorithm>
-#include <chrono>
-#include <thread>
 
 namespace {
 
 /// Statements with lists of differing lengths must not fill the memory.
 constexpr std::size_t mostPrepared = 64;
-/// Milliseconds that a statement waits for another terminal before it fails.
-constexpr int longestWait = 15'000;
-constexpr int longestStep = 15;
 /// Some milliseconds' worth of a long statement.
 constexpr int instructionsPerSign = 100'000;
 
@@ -27,6 +20,11 @@ int workGoesOn(void *)
 {
     LongWork::goOn();
     return 0;
+}
+
+int waitForOthers(void *, int attempt)
+{
+    return Patience::waitForOthers(attempt) ? 1 : 0;
 }
 
 /// A regular file at the path. The live file is looked at by its name alone: closing any descriptor of it drops the
@@ -89,8 +87,7 @@ QString textColumn(sqlite3_stmt *statement, int column)
     return QString::fromUtf8(static_cast<const char *>(text), sqlite3_column_bytes(statement, column));
 }
 
-SqlCipherConnection::SqlCipherConnection(const FileAccess &access, Mode mode)
-    : m_access(access), m_chance(static_cast<unsigned>(::getpid()))
+SqlCipherConnection::SqlCipherConnection(const FileAccess &access, Mode mode) : m_access(access)
 {
     if (mode == Mode::Open) {
         const struct stat status = statOf(access.path);
@@ -119,7 +116,7 @@ void SqlCipherConnection::openHandle(Mode mode)
 void SqlCipherConnection::setUp(Mode mode)
 {
     sqlite3_extended_result_codes(handle(), 1);
-    sqlite3_busy_handler(handle(), waitForOthers, this);
+    sqlite3_busy_handler(handle(), waitForOthers, nullptr);
     sqlite3_progress_handler(handle(), instructionsPerSign, workGoesOn, nullptr);
     // Files of version 4 of the library have another layout by default; the version here does not know the pragma.
     run("PRAGMA cipher_default_compatibility = 3");
@@ -196,18 +193,4 @@ void SqlCipherConnection::raise(int code)
     if (meansLost(code))
         m_lost = true;
     throw RunTimeError(errorNumber(code), QString::fromUtf8(sqlite3_errmsg(handle())));
-}
-
-// The steps differ from terminal to terminal, so that two of them do not keep meeting at the same lock.
-int SqlCipherConnection::waitForOthers(void *connection, int attempt)
-{
-    auto *self = static_cast<SqlCipherConnection *>(connection);
-    if (attempt == 0)
-        self->m_waited = 0;
-    if (self->m_waited >= longestWait)
-        return 0;
-    const int step = std::uniform_int_distribution<int>(1, std::min(longestStep, attempt + 2))(self->m_chance);
-    std::this_thread::sleep_for(std::chrono::milliseconds(step));
-    self->m_waited += step;
-    return 1;
 }

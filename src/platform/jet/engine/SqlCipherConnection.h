@@ -6,7 +6,6 @@
 #include <sys/types.h>
 
 #include <memory>
-#include <random>
 #include <string>
 #include <unordered_map>
 
@@ -72,14 +71,11 @@ private:
 
     void openHandle(Mode mode);
     void setUp(Mode mode);
-    static int waitForOthers(void *connection, int attempt);
 
     FileAccess m_access;
     dev_t m_device = 0;
     ino_t m_inode = 0;
     bool m_lost = false;
-    std::minstd_rand m_chance;
-    int m_waited = 0;
     Handle m_handle;
     /// By their text. Declared behind the handle, so that they go first.
     std::unordered_map<std::string, Prepared> m_prepared;
