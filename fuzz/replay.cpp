@@ -6,6 +6,7 @@
 #include <csignal>
 #include <random>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 // Runs a target over its seeds and over mutations of them that are the same in every run.
@@ -14,20 +15,20 @@
 
 namespace {
 constexpr const char *findingFile = "finding";
+constexpr char keptMessage[] = "The input was kept as \"finding\".\n";
 /// Longer inputs cost time and find no more.
 constexpr qsizetype longest = 2048;
 
-QByteArray current;
+/// Never freed: what sanitizers find at the exit is found when all else is gone.
+QByteArray &current = *new QByteArray;
 
-/// Keeps the input that broke the target.
+/// Keeps the input that broke the target. Memory, locks and streams may be broken too, so only the system is asked.
 void keepFinding(int)
 {
-    QFile file(findingFile);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(current);
-    file.close();
-    std::fprintf(stderr, "The input was kept as \"%s\".\n", findingFile);
-    std::_Exit(EXIT_FAILURE);
+    const int file = ::open(findingFile, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    const auto size = static_cast<std::size_t>(current.size());
+    const bool kept = file >= 0 && ::write(file, current.constData(), size) == static_cast<ssize_t>(size);
+    ::_exit(kept && ::write(STDERR_FILENO, keptMessage, sizeof keptMessage - 1) > 0 ? EXIT_FAILURE : 2);
 }
 
 void run(const QByteArray &input)
