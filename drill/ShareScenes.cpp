@@ -2,6 +2,7 @@
 
 #include "drill/Mounts.h"
 #include "drill/TerminalProcess.h"
+#include "tests/support/FileHolder.h"
 
 #include <QFile>
 
@@ -10,7 +11,8 @@
 
 namespace {
 const QString allWorks = "sale,code,ini 0";
-constexpr int patience = 120; // seconds that one statement after the other may take to fail
+constexpr int patience = 120; // seconds that one press after the other may take to fail
+constexpr int longestFreeze = 20'000;
 
 /// One terminal that works before, while and after its café is broken.
 class Witness
@@ -57,7 +59,42 @@ public:
         workSoundly("after");
     }
 
+    void meetAnother(int milliseconds)
+    {
+        m_terminal.order("held 0 broken");
+        if (!m_terminal.asks())
+            damage("the terminal does not ask whether to sell");
+        {
+            const FileHolder other(m_cafe + "/Morvelane.mdb", milliseconds);
+            m_terminal.order("yes");
+            if (!m_terminal.becomesIdle(patience))
+                damage("the terminal hangs or has ended");
+        }
+        const QStringList journal = m_terminal.takeJournal();
+        m_ledger.take(journal);
+        tellFreezes(journal);
+        settle(m_scene, Ledger::Loss::IsCounted);
+        workSoundly("after");
+    }
+
 private:
+    void tellFreezes(const QStringList &journal)
+    {
+        QStringList presses;
+        int longest = 0;
+        for (const QString &line : journal) {
+            const QStringList words = line.split('\t');
+            if (words.first() != "press")
+                continue;
+            presses += words[1] + ' ' + words[2] + " ms";
+            longest = std::max(longest, words[2].toInt());
+        }
+        m_drill.notes.append(QString("%1: the longest freeze of one press was %2 ms (%3).")
+                                 .arg(m_scene, QString::number(longest), presses.join(", ")));
+        if (presses.isEmpty() || longest > longestFreeze)
+            damage("a press freezes the terminal for too long");
+    }
+
     void damage(const QString &what) { m_drill.damage.append(m_scene + ": " + what); }
 
     void work(const QString &order)
@@ -109,6 +146,13 @@ void playUnreachable(Drill &drill)
     Witness witness(drill, "unreachable", cafe);
     for (int time = 0; time < 3; ++time)
         witness.suffer([&] { return QDir().rename(cafe, elsewhere); }, [&] { return QDir().rename(elsewhere, cafe); });
+}
+
+void playHeld(Drill &drill)
+{
+    constexpr int minute = 60'000;
+    const QString cafe = layOutCafe(drill, "held");
+    Witness(drill, "file held", cafe).meetAnother(minute);
 }
 
 void playReadOnly(Drill &drill)

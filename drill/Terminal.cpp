@@ -55,6 +55,8 @@ public:
             sellCode();
         else if (kind == "edit")
             edit();
+        else if (kind == "held")
+            workOnHeldFile();
         else
             tick();
     }
@@ -68,6 +70,13 @@ public:
             say({"told", text.section('\n', 0, 0)});
         if ((style & vbYesNo) == 0)
             return vbOK;
+        if (m_asksForSign) {
+            m_asksForSign = false;
+            say({"question"});
+            std::string sign;
+            std::getline(std::cin, sign);
+            m_freeze.start();
+        }
         // The question about a code comes when the customer is stored.
         const bool offersCode = text == m_doneTexts.value("customer");
         return offersCode && !m_wantsCode ? vbNo : vbYes;
@@ -104,17 +113,53 @@ private:
         if (!sale)
             return;
         begin("sale", m_serial);
-        for (const QString &product : drilledProducts) {
-            replaceText(control(*sale, "cmbprodutos"), product);
-            pressKey(control(*sale, "cmbprodutos"), Qt::Key_Return);
-            replaceText(control(*sale, "txtquantidade"), QString::number(m_serial));
-            pressKey(control(*sale, "txtquantidade"), Qt::Key_Return);
-        }
-        replaceText(control(*sale, "txtvalor_pago"), "99999999");
+        fillCart(*sale);
         click(*sale, "cmdfinalizar");
         // A cart that was refused would be sold with the next one.
         if (!m_isDone)
             sale->Unload();
+    }
+
+    void fillCart(Form &sale)
+    {
+        for (const QString &product : drilledProducts) {
+            replaceText(control(sale, "cmbprodutos"), product);
+            pressKey(control(sale, "cmbprodutos"), Qt::Key_Return);
+            replaceText(control(sale, "txtquantidade"), QString::number(m_serial));
+            pressKey(control(sale, "txtquantidade"), Qt::Key_Return);
+        }
+        replaceText(control(sale, "txtvalor_pago"), "99999999");
+    }
+
+    void workOnHeldFile()
+    {
+        Form *sale = window("cmdvendaprod", "frmvenda");
+        if (!sale)
+            return;
+        begin("sale", m_serial);
+        fillCart(*sale);
+        m_asksForSign = true;
+        press("yes to the sale", *sale, "cmdfinalizar");
+        closeWindows();
+        press("opening the sale", m_shell, "cmdvendaprod");
+        press("opening the customers", m_shell, "cmdclientes");
+        closeWindows();
+    }
+
+    static void closeWindows()
+    {
+        for (const char *name : {"frmvenda", "frmcadastro_clientes"})
+            if (Form_Aberto(name))
+                loadedWindow(name).Unload();
+    }
+
+    /// A press, until the windows can be worked again.
+    void press(const QString &what, const Form &form, const QString &button)
+    {
+        m_freeze.start();
+        click(form, button);
+        QCoreApplication::processEvents();
+        say({"press", what, QString::number(m_freeze.elapsed())});
     }
 
     void registerCustomer()
@@ -185,6 +230,8 @@ private:
     QString m_kind;
     QStringList m_words;
     bool m_isDone = false;
+    bool m_asksForSign = false;
+    QElapsedTimer m_freeze;
     bool m_wantsCode = false;
     bool m_told = false;
     bool m_broken = false;

@@ -63,6 +63,11 @@ bool TerminalProcess::beginsWork()
     return !readUpTo({"try"}, longestStart).isEmpty();
 }
 
+bool TerminalProcess::asks()
+{
+    return !readUpTo({"question"}, longestStart).isEmpty();
+}
+
 bool TerminalProcess::becomesIdle(int seconds)
 {
     return !readUpTo({"idle"}, seconds * 1000).isEmpty();

@@ -20,6 +20,8 @@ public:
     void order(const QString &works);
     /// Waits until the first work of an order is begun.
     bool beginsWork();
+    /// Waits for the question of a sale.
+    bool asks();
     /// Waits until an order is done.
     bool becomesIdle(int seconds);
     void kill();

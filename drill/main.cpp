@@ -50,6 +50,7 @@ int play(Drill &drill, bool ownMounts)
     scene("kills", playKills);
     scene("four terminals", playCrowd);
     scene("the folder goes away", playUnreachable);
+    scene("another program holds the file", playHeld);
     if (ownMounts) {
         scene("the folder becomes read-only", playReadOnly);
         scene("the disk is full", playFullDisk);
