@@ -2,6 +2,7 @@
 
 #include "platform/window/Form.h"
 #include "platform/window/Look.h"
+#include "tour/OffscreenScreen.h"
 #include "tour/Scenes.h"
 
 #include <QApplication>
@@ -9,7 +10,6 @@
 #include <QPainter>
 #include <QPalette>
 #include <QProcess>
-#include <QTemporaryFile>
 #include <QTextStream>
 
 #include <memory>
@@ -45,17 +45,10 @@ QStringList variants()
 class DesktopProcess
 {
 public:
-    DesktopProcess(const Desktop &desktop, const QString &folder)
+    DesktopProcess(const Desktop &desktop, const QString &folder) : m_screen(desktop.width, desktop.height)
     {
-        const QString screen = R"({"screens":[{"name":"%1","x":0,"y":0,"width":%2,"height":%3,"logicalDpi":96,)"
-                               R"("logicalBaseDpi":96,"dpr":1}]})";
-        if (!m_screen.open())
-            qFatal("No temporary file");
-        m_screen.write(screen.arg(desktop.name()).arg(desktop.width).arg(desktop.height).toUtf8());
-        m_screen.flush();
-
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("QT_QPA_PLATFORM", "offscreen:configfile=" + m_screen.fileName());
+        environment.insert("QT_QPA_PLATFORM", QString::fromUtf8(m_screen.platform()));
         environment.insert("QT_SCALE_FACTOR", QString::number(desktop.percent / 100.0));
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
@@ -69,7 +62,7 @@ public:
     }
 
 private:
-    QTemporaryFile m_screen;
+    OffscreenScreen m_screen;
     QProcess m_process;
 };
 

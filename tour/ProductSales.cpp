@@ -2,18 +2,24 @@
 
 #include "cafe/Cafe.h"
 #include "configuration/Idiomas.h"
+#include "platform/base/LongWork.h"
+#include "platform/window/BusySign.h"
 #include "platform/window/Forms.h"
 #include "platform/window/TextBox.h"
 #include "sale/frmvenda.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/Controls.h"
+#include "tests/support/FileHolder.h"
 #include "tests/support/KeyQueue.h"
 #include "tests/support/PdfText.h"
 #include "tour/Tour.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QTest>
+
+#include <optional>
 
 namespace {
 QString box(const QString &key)
@@ -143,6 +149,35 @@ void sellOnCredit(Tour &tour, Counter &counter)
     click(counter.window(), "optpago");
 }
 
+void sellOnHeldFile(Tour &tour, Counter &counter)
+{
+    constexpr int heldMilliseconds = 3000;
+    constexpr int signOfThePicture = 8;
+    tour.chapter("A sale while another program holds the data file for 3 s");
+    click(counter.window(), "optavulsa");
+    counter.choose("B01", "1");
+    int signs = 0;
+    LongWork::setSign([&](LongWork::Life life) {
+        showBusySign(life);
+        if (life == LongWork::Life::Waits && ++signs == signOfThePicture)
+            tour.pictureAsItStands(counter.window(), "frmvenda-waits");
+    });
+    std::optional<FileHolder> holder;
+    QElapsedTimer freeze;
+    tour.attendant().expect(loaded("String5") + "R$ 2,50?", vbYesNo + vbInformation, "Atenção", vbYes, [&] {
+        holder.emplace(dataFileOf(tour.cafe()), heldMilliseconds);
+        freeze.start();
+    });
+    counter.expectSuccess();
+    counter.pay("2,50");
+    LongWork::setSign(showBusySign);
+    tour.expect("line", tour.value("Select Descrição from Venda_Produtos Where Codigo=5"),
+                "ÁGUA MINERAL SEM GÁS 500ML");
+    tour.expect("waited out, with a sign",
+                freeze.elapsed() >= heldMilliseconds && signs >= signOfThePicture ? "yes" : "no", "yes");
+    click(counter.window(), "optcliente");
+}
+
 void beRefused(Tour &tour, Counter &counter)
 {
     tour.chapter("A sale that the closed till refuses");
@@ -150,7 +185,7 @@ void beRefused(Tour &tour, Counter &counter)
     counter.choose("B01", "1");
     tour.attendant().expectNotice(box("MsgBox7"), box("MsgBox1_6"));
     counter.pay("2,50");
-    tour.expect("stored rows", tour.value("Select Count(*) from Venda_Produtos"), "4");
+    tour.expect("stored rows", tour.value("Select Count(*) from Venda_Produtos"), "5");
     openTill(tour.cafe());
 }
 /// The keys that the attendant presses herself; a scanner's are not hers.
@@ -221,6 +256,7 @@ void tourProductSales(Tour &tour)
         sellToCustomer(tour, counter);
         sellToWalkIn(tour, counter);
         sellOnCredit(tour, counter);
+        sellOnHeldFile(tour, counter);
         beRefused(tour, counter);
         counter.window().Unload();
     }

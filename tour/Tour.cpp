@@ -61,6 +61,11 @@ void Tour::chapter(const QString &title) const
 void Tour::picture(QWidget &window, const QString &name)
 {
     QCoreApplication::processEvents();
+    pictureAsItStands(window, name);
+}
+
+void Tour::pictureAsItStands(QWidget &window, const QString &name)
+{
     const QString file = QString("%1-%2.png").arg(++m_pictures, 2, 10, QChar('0')).arg(name);
     if (!window.grab().save(path(file)))
         fail("The picture " + file + " could not be written.");

@@ -29,6 +29,8 @@ public:
     void chapter(const QString &title) const;
     /// Saves a window as a numbered PNG.
     void picture(QWidget &window, const QString &name);
+    /// The same while no events may run.
+    void pictureAsItStands(QWidget &window, const QString &name);
     void expect(const QString &what, const QString &actual, const QString &expected);
 
     /// First row of a query on the café's data file, with the fields joined by " | ".

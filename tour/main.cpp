@@ -4,6 +4,7 @@
 #include "tour/Codes.h"
 #include "tour/ContactSheets.h"
 #include "tour/Customers.h"
+#include "tour/OffscreenScreen.h"
 #include "tour/ProductSales.h"
 #include "tour/Products.h"
 #include "tour/Tour.h"
@@ -14,6 +15,10 @@
 // expected, with 2 when it could not begin.
 int main(int argc, char **argv)
 {
+    // As large as the small screens at counters, so that no window is cut; a desktop's process brings its own.
+    const OffscreenScreen screen(1366, 768);
+    if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
+        qputenv("QT_QPA_PLATFORM", screen.platform());
     Application application(argc, argv);
     RegionalSettings::use(QLocale(QLocale::Portuguese, QLocale::Brazil));
     const QStringList arguments = Application::arguments();
