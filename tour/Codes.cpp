@@ -87,7 +87,7 @@ void linkCode(Tour &tour)
     click(window, "chkimprimir_etiqueta");
     click(window, "cmdaleatorio");
     tour.picture(window, "frmcodigo_rapido-postpaid");
-    tour.attendant().expect(text("MsgBox10") + "ÚRSULA REIS?", vbYesNo + vbInformation, text("MsgBox1_2"), vbYes);
+    tour.attendant().expect(text("MsgBox10") + "Úrsula Reis?", vbYesNo + vbInformation, text("MsgBox1_2"), vbYes);
     tour.attendant().expectNotice(text("MsgBox7"), text("MsgBox1_2"));
     click(window, "cmdfinalizar");
     const QString code = tour.value("Select Codigo_Acesso from Links Where Nome='ÚRSULA REIS'");
