@@ -29,12 +29,28 @@ QString decoded(const QByteArray &bytes)
     return bytes.isValidUtf8() ? fromUtf8(bytes) : fromWindows1252(bytes);
 }
 
+/// A file in UTF-16 as the same lines in UTF-8, others as they are.
+QByteArray plainBytes(const QByteArray &bytes)
+{
+    const bool little = bytes.startsWith("\xFF\xFE");
+    if (!little && !bytes.startsWith("\xFE\xFF"))
+        return bytes;
+    QString text;
+    for (qsizetype i = 2; i + 1 < bytes.size(); i += 2) {
+        const auto unit = [&](qsizetype at) { return static_cast<unsigned char>(bytes[at]); };
+        text += QChar(little ? unit(i) | unit(i + 1) << 8 : unit(i) << 8 | unit(i + 1));
+    }
+    // Not to be taken for the mark of UTF-8.
+    return '\n' + text.toUtf8();
+}
+
 /// The file read in the plainest way, line by line, where the program leaps.
 class PlainReading
 {
 public:
-    explicit PlainReading(const QByteArray &bytes)
+    explicit PlainReading(const QByteArray &file)
     {
+        const QByteArray bytes = plainBytes(file);
         const qsizetype mark = bytes.startsWith("\xEF\xBB\xBF") ? 3 : 0;
         for (qsizetype begin = mark, next = 0; begin < bytes.size(); begin = next) {
             const qsizetype feed = bytes.indexOf('\n', begin);
@@ -107,6 +123,12 @@ void checkWrite(const QByteArray &before, const QString &section, const QString 
     else
         rest.erase(rest.begin() + place);
     require(rest == old.entries, "a write keeps every other key");
+    if (plainBytes(before) != before) {
+        require(after.left(2) == before.left(2), "a write keeps the mark");
+        ini.setValue(section, key, value);
+        require(ini.bytes() == after, "the same value again changes nothing");
+        return;
+    }
     const qsizetype head = replaced ? replaced->begin : 0;
     const qsizetype tail = replaced ? before.size() - head - replaced->value.size() : 0;
     if (replaced) {

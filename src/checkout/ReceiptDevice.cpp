@@ -24,7 +24,7 @@ void ReceiptDevice::open()
     if (!m_toPort)
         return;
     const QString port = Ler_INI(caminhoConfig(), "Matricial", "Porta");
-    attempt([&] { m_port.Open(port.isEmpty() ? "LPT1" : port); });
+    attempt([&] { m_port.OpenPort(port.isEmpty() ? "LPT1" : port); });
 }
 
 void ReceiptDevice::beginPage()

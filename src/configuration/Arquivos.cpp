@@ -28,3 +28,8 @@ QString caminhoFototemp()
 {
     return Pasta_Do_Arquivo(CaminhoBD) + "\\Fototemp.jpg";
 }
+
+QString arquivoModelo(const QString &path)
+{
+    return path.startsWith(Pasta_Do_Arquivo(CaminhoBD)) ? CaminhoBD : QString();
+}

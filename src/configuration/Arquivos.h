@@ -13,3 +13,7 @@ QString caminhoConfig();
 
 /// Path of the picture that the camera hands over to the next save.
 QString caminhoFototemp();
+
+/// The file whose rights a new file takes: the data file for all that lies in its folder, so that every attendant can
+/// write what one of them made; empty elsewhere.
+QString arquivoModelo(const QString &path);

@@ -1,5 +1,6 @@
 #include "configuration/Arquivos_INI.h"
 
+#include "configuration/Arquivos.h"
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
 
@@ -16,5 +17,5 @@ QString Ler_INI(const QString &file, const QString &section, const QString &key)
 
 void Gravar_INI(const QString &file, const QString &section, const QString &key, const QString &value)
 {
-    OnErrorResumeNext([&] { WritePrivateProfileString(section, key, value, file); });
+    OnErrorResumeNext([&] { WritePrivateProfileString(section, key, value, file, arquivoModelo(file)); });
 }

@@ -42,7 +42,7 @@ void CustomerPhoto::keepWebcamPicture(double codigo)
     const QString target = Pasta_Do_Arquivo(CaminhoBD) + "\\Fotos\\" + Cstr(codigo) + ".jpg";
     if (Existe_Arquivo(target))
         Kill(target);
-    FileCopy(caminhoFototemp(), target);
+    FileCopy(caminhoFototemp(), target, arquivoModelo(target));
     m_state.CaminhoFoto = target;
 }
 

@@ -73,7 +73,9 @@ bool Gravar_JPG(const cDIBSection &dib, const QString &arquivo, int qualidade)
                                   dib.Height(), TJPF_BGR, &encoded, &size, TJSAMP_444, qualidade, TJFLAG_BOTTOMUP) == 0;
     const std::unique_ptr<unsigned char, void (*)(unsigned char *)> file(encoded, tjFree);
     return done && OnErrorGoToEnd([&] {
-               writeWholeFile(arquivo, QByteArray::fromRawData(reinterpret_cast<const char *>(encoded),
-                                                               static_cast<qsizetype>(size)));
+               writeWholeFile(
+                   arquivo,
+                   QByteArray::fromRawData(reinterpret_cast<const char *>(encoded), static_cast<qsizetype>(size)),
+                   arquivoModelo(arquivo));
            });
 }

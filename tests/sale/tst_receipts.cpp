@@ -61,7 +61,7 @@ private slots:
         sell("");
         QCOMPARE(pdfLines(counter.machine.openedDocuments.last()).filter("CNPJ: 12.345.678/0001-95").size(), 2);
         counter.machine.breakPrinter();
-        for (const QString port : {"", "/dev/null/receipt"}) {
+        for (const QString &port : {QString(), QString("/dev/null/receipt"), counter.cafe.dataFile()}) {
             counter.cafe.setIni("Matricial", "Ativo", port.isEmpty() ? "0" : "1");
             counter.cafe.setIni("Matricial", "Porta", port);
             sell("Data=14/03/2024\nID=17\nID_Total=99\n");

@@ -1,23 +1,24 @@
 #include "platform/files/IniProfile.h"
 
+#include "platform/base/Err.h"
 #include "platform/files/IniText.h"
 #include "platform/files/Paths.h"
 #include "platform/files/SafeFile.h"
 
-#include <QFile>
 #include <QHash>
 
 namespace {
 /// Empty when the file is there and cannot be read to its end; a missing file is an empty one.
 std::optional<IniText> readIni(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return file.exists() ? std::nullopt : std::optional(IniText({}));
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return {};
-    return IniText(std::move(bytes));
+    // A name without a folder means that the program knows none at the moment.
+    if (!namesFolder(path))
+        return IniText({});
+    try {
+        return IniText(readRegularFile(path));
+    } catch (const RunTimeError &error) {
+        return error.Number() == ErrorNumber::FileNotFound ? std::optional(IniText({})) : std::nullopt;
+    }
 }
 
 int bursts = 0;
@@ -48,7 +49,8 @@ IniBurst::~IniBurst()
     --bursts;
 }
 
-bool WritePrivateProfileString(const QString &section, const QString &key, const QString &value, const QString &file)
+bool WritePrivateProfileString(const QString &section, const QString &key, const QString &value, const QString &file,
+                               const QString &rightsOf)
 {
     filesRead.clear();
     const QString path = resolveIgnoringCase(file);
@@ -58,9 +60,10 @@ bool WritePrivateProfileString(const QString &section, const QString &key, const
         return false;
     ini->setValue(section, key, value);
 
-    QSaveFile replacement(path);
-    if (!replacement.open(QIODevice::WriteOnly))
+    try {
+        writeWholeFile(path, ini->bytes(), rightsOf);
+    } catch (const RunTimeError &) {
         return false;
-    replacement.write(ini->bytes());
-    return commitForGood(replacement);
+    }
+    return true;
 }

@@ -17,6 +17,7 @@ public:
     Q_DISABLE_COPY_MOVE(IniBurst)
 };
 
-/// Sets one key and keeps every other byte of the file; creates file, section and key as needed. False when the file
-/// could not be replaced.
-bool WritePrivateProfileString(const QString &section, const QString &key, const QString &value, const QString &file);
+/// Sets one key and keeps every other byte of the file; creates file, section and key as needed, with `rightsOf` as for
+/// `writeWholeFile`. False when the file could not be replaced.
+bool WritePrivateProfileString(const QString &section, const QString &key, const QString &value, const QString &file,
+                               const QString &rightsOf = {});

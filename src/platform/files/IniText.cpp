@@ -3,11 +3,37 @@
 #include "platform/text/Utf8.h"
 #include "platform/text/Windows1252.h"
 
+#include <QtEndian>
+
 #include <algorithm>
+#include <string>
 #include <utility>
 
 namespace {
 constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
+constexpr qsizetype WideMarkSize = 2;
+
+std::optional<QStringConverter::Encoding> wideEncoding(QByteArrayView bytes)
+{
+    if (bytes.startsWith("\xFF\xFE"))
+        return QStringConverter::Utf16LE;
+    if (bytes.startsWith("\xFE\xFF"))
+        return QStringConverter::Utf16BE;
+    return {};
+}
+
+/// Half a character at the end is left out; it stays in the file.
+QString wideText(QByteArrayView bytes, QStringConverter::Encoding encoding)
+{
+    const qsizetype units = (bytes.size() - WideMarkSize) / 2;
+    std::u16string text(static_cast<std::size_t>(units), u'\0');
+    const char *first = bytes.data() + WideMarkSize;
+    if (encoding == QStringConverter::Utf16LE)
+        qFromLittleEndian<char16_t>(first, units, text.data());
+    else
+        qFromBigEndian<char16_t>(first, units, text.data());
+    return QString::fromStdU16String(text);
+}
 
 /// A line without its end; `next` is where the following one begins.
 struct Line
@@ -60,9 +86,13 @@ bool isNamed(QByteArrayView name, QStringView wanted)
 }
 } // namespace
 
-IniText::IniText(QByteArray bytes)
-    : m_bytes(std::move(bytes)), m_start(m_bytes.startsWith(ByteOrderMark) ? ByteOrderMark.size() : 0)
+IniText::IniText(QByteArray bytes) : m_bytes(std::move(bytes)), m_text(m_bytes), m_wide(wideEncoding(m_bytes))
 {
+    // Each unit that is no character becomes one that is, so that the text's units keep their places.
+    if (m_wide)
+        m_text = wideText(m_bytes, *m_wide).toUtf8();
+    else if (m_bytes.startsWith(ByteOrderMark))
+        m_start = ByteOrderMark.size();
 }
 
 std::optional<QString> IniText::value(QStringView section, QStringView key) const
@@ -70,7 +100,7 @@ std::optional<QString> IniText::value(QStringView section, QStringView key) cons
     const Place place = find(section, key);
     if (!place.keyFound)
         return {};
-    return decoded(QByteArrayView(m_bytes).sliced(place.begin, place.end - place.begin));
+    return decoded(QByteArrayView(m_text).sliced(place.begin, place.end - place.begin));
 }
 
 void IniText::setValue(const QString &section, const QString &key, const QString &value)
@@ -81,25 +111,35 @@ void IniText::setValue(const QString &section, const QString &key, const QString
         text = key + u'=' + value + lineEnd();
         if (!place.sectionFound)
             text.prepend(u'[' + section + u']' + lineEnd());
-        const char before = place.begin > m_start ? m_bytes.at(place.begin - 1) : '\n';
+        const char before = place.begin > m_start ? m_text.at(place.begin - 1) : '\n';
         // Half a line end is completed, as a whole one behind it would leave its half in the value before.
         if (before != '\n')
             text.prepend(before == '\r' ? "\n" : lineEnd());
     }
-    m_bytes.replace(place.begin, place.end - place.begin, encoded(text));
+    const qsizetype length = place.end - place.begin;
+    if (m_wide) {
+        const qsizetype before = fromUtf8(QByteArrayView(m_text).first(place.begin)).size();
+        const qsizetype units = fromUtf8(QByteArrayView(m_text).sliced(place.begin, length)).size();
+        const QByteArray wide = QStringEncoder(*m_wide)(text);
+        m_bytes.replace(WideMarkSize + 2 * before, 2 * units, wide);
+        m_text.replace(place.begin, length, text.toUtf8());
+        return;
+    }
+    m_text.replace(place.begin, length, encoded(text));
+    m_bytes = m_text;
 }
 
 IniText::Place IniText::find(QStringView section, QStringView key) const
 {
     Place place;
-    place.begin = place.end = m_bytes.size();
+    place.begin = place.end = m_text.size();
     const std::optional<qsizetype> lines = findSection(section);
     if (!lines)
         return place;
 
     place.sectionFound = true;
     place.begin = place.end = *lines;
-    const QByteArrayView all(m_bytes);
+    const QByteArrayView all(m_text);
     qsizetype next = 0;
     for (qsizetype begin = *lines; begin < all.size(); begin = next) {
         const Line line = lineAt(all, begin);
@@ -123,7 +163,7 @@ IniText::Place IniText::find(QStringView section, QStringView key) const
 
 std::optional<qsizetype> IniText::findSection(QStringView section) const
 {
-    const QByteArrayView all(m_bytes);
+    const QByteArrayView all(m_text);
     // Brackets are few, so they are sought first and then asked whether they begin a line.
     for (qsizetype open = all.indexOf('[', m_start); open >= 0; open = all.indexOf('[', open + 1)) {
         if (!beginsLine(all.sliced(m_start, open - m_start)))
@@ -139,11 +179,11 @@ std::optional<qsizetype> IniText::findSection(QStringView section) const
 QByteArray IniText::encoded(const QString &text) const
 {
     QByteArray narrow = toWindows1252(text);
-    if (m_start == 0 && !QByteArrayView(m_bytes).isValidUtf8())
+    if (m_start == 0 && !QByteArrayView(m_text).isValidUtf8())
         return narrow;
     // A file without any accent yet has no encoding to keep. It is shared with programs of Windows, so their code page
     // comes first, unless it lacks a character or its bytes would read as another text in UTF-8.
-    const bool undecided = m_start == 0 && isAscii(m_bytes);
+    const bool undecided = m_start == 0 && isAscii(m_text);
     const bool fits = fromWindows1252(narrow) == text && !QByteArrayView(narrow).isValidUtf8();
     return undecided && fits ? narrow : text.toUtf8();
 }
@@ -151,6 +191,6 @@ QByteArray IniText::encoded(const QString &text) const
 QString IniText::lineEnd() const
 {
     // A new file is one for programs of Windows, too.
-    const qsizetype feed = m_bytes.indexOf('\n');
-    return feed < 0 || (feed > 0 && m_bytes.at(feed - 1) == '\r') ? "\r\n" : "\n";
+    const qsizetype feed = m_text.indexOf('\n');
+    return feed < 0 || (feed > 0 && m_text.at(feed - 1) == '\r') ? "\r\n" : "\n";
 }

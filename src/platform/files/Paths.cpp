@@ -95,18 +95,9 @@ void Kill(const QString &path)
         throw RunTimeError(ErrorNumber::PathAccess, file.errorString() + ": " + path);
 }
 
-void FileCopy(const QString &from, const QString &to)
+void FileCopy(const QString &from, const QString &to, const QString &rightsOf)
 {
-    constexpr qint64 blockSize = 1 << 16;
-    QFile source(existingFile(from));
-    QSaveFile target(resolveIgnoringCase(to));
-    bool copied = source.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly);
-    while (copied && !source.atEnd()) {
-        const QByteArray block = source.read(blockSize);
-        copied = !block.isEmpty() && target.write(block) == block.size();
-    }
-    if (!copied || !commitForGood(target))
-        throw RunTimeError(ErrorNumber::PathAccess, "Cannot copy " + from + " to " + to);
+    writeWholeFile(to, readRegularFile(resolveIgnoringCase(from)), rightsOf);
 }
 
 void renameFile(const QString &from, const QString &to)

@@ -16,8 +16,9 @@ QString Dir(const QString &path, int attributes = 0);
 /// Deletes a file. Raises FileNotFound or PathAccess.
 void Kill(const QString &path);
 
-/// Copies a file over another, which is replaced whole or not at all. Raises FileNotFound or PathAccess.
-void FileCopy(const QString &from, const QString &to);
+/// Copies a file over another, which is replaced whole or not at all; `rightsOf` as for `writeWholeFile`. Raises
+/// FileNotFound or PathAccess.
+void FileCopy(const QString &from, const QString &to, const QString &rightsOf = {});
 
 /// Renames a file. Raises FileNotFound or PathAccess.
 void renameFile(const QString &from, const QString &to);

@@ -1,11 +1,26 @@
 #pragma once
 
-#include <QSaveFile>
+#include <QByteArray>
 #include <QString>
 
-/// Puts a written file into the place of its forerunner, if every byte of it is on the disk for good. Qt's own commit
-/// minds neither a disk that is full at the last flush nor one that fails to take the bytes.
-bool commitForGood(QSaveFile &file);
+#include <sys/types.h>
 
-/// Writes a file whole or not at all. Raises PathAccess.
-void writeWholeFile(const QString &path, const QByteArray &content);
+// Files in a folder where others write, too: what stands at a name may be a pipe or somebody's link.
+
+/// Content of a regular file. A link is followed no further than its own folder. Raises FileNotFound for everything
+/// that is no such file, at once for a pipe as well, and PathAccess for one that cannot be read to its end.
+QByteArray readRegularFile(const QString &path);
+
+/// Writes a file whole or not at all, on the disk for good. A link at its name is replaced and never followed. What was
+/// there keeps its rights and its group; a new file takes the folder's group and the rights of the file `rightsOf`, or
+/// the folder's own when there is no such file. Raises PathAccess, for a path that names no folder, too.
+void writeWholeFile(const QString &path, const QByteArray &content, const QString &rightsOf = {});
+
+/// Whether a path leads through any folder below the root.
+bool namesFolder(const QString &path);
+
+/// Gives a file the rights and the group of another one.
+void takeRights(const QString &path, const QString &from);
+
+/// Sets rights and group. A file that can't be given to the group gives its own group no more than it gives strangers.
+void giveRights(int descriptor, mode_t rights, gid_t group);

@@ -1,13 +1,20 @@
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
+#include "platform/files/IniProfile.h"
 #include "platform/files/Paths.h"
 #include "platform/files/TextOutput.h"
 #include "tests/support/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <fcntl.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -27,6 +34,7 @@ class tst_files : public QObject
 private slots:
     void init()
     {
+        qunsetenv("TMPDIR");
         Machine::current() = Machine();
         m_folder = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir::setCurrent(m_folder->path()) && QDir().mkpath("Café/fotos"));
@@ -118,6 +126,55 @@ private slots:
         device = "/dev/full";
         output.Open("LPT1");
         QCOMPARE(failure([&] { output.Print("first line"); }), ErrorNumber::DeviceUnavailable);
+    }
+
+    /// Whoever can write the share names the port; no file of this user's may come to harm.
+    void reachesNoFileThroughAPort()
+    {
+        qputenv("TMPDIR", m_folder->filePath("tmp").toUtf8());
+        qputenv("XDG_CONFIG_DIRS", m_folder->filePath("etc").toUtf8());
+        QVERIFY(QDir().mkpath("tmp") && QDir().mkpath("home") && QDir().mkpath("spool/today"));
+        const QString pointer = m_folder->filePath("etc/morvelane/ConfigIni.txt");
+        QVERIFY(QDir().mkpath("etc/morvelane") &&
+                WritePrivateProfileString("Ports", "Folders", " ;" + m_folder->filePath("spool"), pointer));
+        QVERIFY(QFile("tmp/data").open(QIODevice::WriteOnly) && QFile("b.txt").resize(7));
+        QVERIFY(QFile::link(m_folder->filePath("b.txt"), "tmp/link") && QFile::link("../gone", "tmp/dangling"));
+        QVERIFY(QFile::link(m_folder->filePath("home"), "tmp/home") && mkfifo("tmp/pipe", 0600) == 0);
+        TextOutput output;
+        const auto prints = [&](const QString &name) {
+            return failure([&] {
+                output.OpenPort(name);
+                output.Print("receipt");
+                output.Close();
+            });
+        };
+        for (const char *name : {"b.txt", "home/new", "tmp/data", "tmp/link", "tmp/dangling", "tmp/home/new",
+                                 "tmp/pipe", "tmp/../home/new", "tmp", "gone/new", "~/.profile", "/new"})
+            QVERIFY2(prints(name) == ErrorNumber::DeviceUnavailable && !output.isOpen(), name);
+        QCOMPARE(QFileInfo("b.txt").size(), 7);
+        QVERIFY(QDir("home").isEmpty() && !QFile::exists("gone") && QFileInfo("tmp/data").size() == 0);
+        // A file that was made as a port is written anew, even where a copy with its rights took its place.
+        for (const char *name : {"tmp/port", "spool/today/port", "/dev/null", "tmp/port"})
+            QCOMPARE(prints(name), 0);
+        QCOMPARE(QFileInfo("tmp/port").size(), 9);
+        QCOMPARE(QProcess::execute("sh", {"-c", "cp -p tmp/port tmp/copy && mv tmp/copy tmp/port"}), 0);
+        QCOMPARE(prints("tmp/port"), 0);
+    }
+
+    void waitsOnceForADeviceThatTakesNothing()
+    {
+        int slept = 0;
+        Machine::current().sleep = [&](int milliseconds) { slept += milliseconds; };
+        const int other = posix_openpt(O_RDWR | O_NOCTTY);
+        QVERIFY(grantpt(other) == 0 && unlockpt(other) == 0);
+        TextOutput output;
+        output.OpenPort(ptsname(other));
+        for (int line = 0; line < 100; ++line)
+            failure([&] { output.Print(QString(1000, u'x')); });
+        QCOMPARE(Err::Number(), 0 + ErrorNumber::DeviceUnavailable);
+        QCOMPARE(slept, 10'000);
+        output.Close();
+        close(other);
     }
 
 private:

@@ -3,8 +3,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QStringConverter>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 class tst_iniprofile : public QObject
 {
@@ -78,6 +82,53 @@ private slots:
         check("[a]\r\nn=\xE7\r\nk=1", "ç Ω", "[a]\r\nn=\xE7\r\nk=\xE7 ?");
         check("[a]\nn=ç\nk=1", "ç Ω", "[a]\nn=ç\nk=ç Ω");
         check(QByteArray("\0\r\xFF\n[a]\r\r\nk=\0\n\r", 15), "1", QByteArray("\0\r\xFF\n[a]\r\r\nk=1\n\r", 15));
+    }
+
+    /// As editors of the first platform save it, in both orders of the bytes.
+    void keepsUtf16()
+    {
+        for (const QStringConverter::Encoding encoding : {QStringConverter::Utf16LE, QStringConverter::Utf16BE}) {
+            const auto wide = [&](const QString &text) {
+                return QByteArray(QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(text));
+            };
+            const QString lone(QChar(0xD800));
+            store(wide("; " + lone + "Ω\r\n[a]\r\nk=1\r\nl=" + QString(300, u'ç')) + "h");
+            QCOMPARE(GetPrivateProfileString("a", "L", {}, 255, path()), QString(254, u'ç'));
+            QVERIFY(WritePrivateProfileString("a", "k", "JOÃO Ω", path()));
+            QVERIFY(WritePrivateProfileString("b", "n", "2", path()));
+            QVERIFY(stored().endsWith(
+                wide("Ω\r\n[a]\r\nk=JOÃO Ω\r\nl=" + QString(300, u'ç') + "\r\n[b]\r\nn=2\r\n").mid(2) + "h"));
+        }
+    }
+
+    /// The folder is shared: what stands at a name may be a trap, and what is made must serve the others.
+    void mindsWhoElseWritesTheFolder()
+    {
+        const QString secret = path("elsewhere/secret");
+        QVERIFY(QDir().mkpath(path("elsewhere")) && QDir().mkpath(path("cafe")));
+        store("[a]\nk=secret\n", "elsewhere/secret");
+        const QString file = path("cafe/inf.rcb");
+        const auto rewritten = [&] { return WritePrivateProfileString("a", "n", "1", file, path("cafe/data")); };
+        QVERIFY(QFile::link(secret, file));
+        QCOMPARE(GetPrivateProfileString("a", "k", "none", 255, file), "none");
+        QVERIFY(rewritten() && QFileInfo(secret).size() == 13 && !QFileInfo(file).isSymLink());
+
+        QVERIFY(QFile::remove(file) && mkfifo(file.toUtf8().constData(), 0600) == 0);
+        QCOMPARE(GetPrivateProfileString("a", "k", "none", 255, file), "none");
+
+        // A new file has the rights of its sibling and the folder's group; a rewritten one keeps its own.
+        store("", "cafe/data");
+        QVERIFY(chmod(path("cafe/data").toUtf8().constData(), 0660) == 0);
+        struct stat status = {};
+        const gid_t group = geteuid() == 0 ? 12345 : getegid();
+        QVERIFY(chown(path("cafe").toUtf8().constData(), geteuid(), group) == 0);
+        for (const mode_t rights : {0660U, 0640U}) {
+            QVERIFY(rewritten() && stat(file.toUtf8().constData(), &status) == 0);
+            QCOMPARE(status.st_mode & ALLPERMS, rights);
+            QCOMPARE(status.st_gid, group);
+            QVERIFY(chmod(file.toUtf8().constData(), 0640) == 0);
+        }
+        QVERIFY(!WritePrivateProfileString("a", "k", "1", "\\config.ini") && !QFile::exists("/config.ini"));
     }
 
     void losesNothingWhenItCannotWrite()
