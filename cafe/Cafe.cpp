@@ -137,7 +137,7 @@ QStringList upgradeCafe(const QString &folder)
 
 void backupCafe(const QString &folder, const QString &file)
 {
-    if (QFileInfo::exists(file))
+    if (QFileInfo::exists(resolveIgnoringCase(file)))
         throw RunTimeError(ErrorNumber::PathAccess, file + ": exists already");
     if (!QFileInfo(QFileInfo(file).absolutePath()).isDir())
         throw RunTimeError(ErrorNumber::FileNotFound, file + ": there is no such folder");

@@ -58,5 +58,5 @@ QStringList checkCafe(const QString &folder);
 /// that not every computer reads alike, and the numbers that they are by this computer's regional settings.
 QStringList upgradeCafe(const QString &folder);
 
-/// Writes a consistent, encrypted copy of the data file while terminals work on it.
+/// Writes a consistent, encrypted copy of the data file while terminals work on it. Never replaces a file.
 void backupCafe(const QString &folder, const QString &file);

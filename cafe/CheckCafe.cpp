@@ -4,7 +4,9 @@
 #include "data/Esquema.h"
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
+#include "platform/files/IniText.h"
 #include "platform/files/Paths.h"
+#include "platform/files/SafeFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -50,6 +52,8 @@ void checkDataFile(const QString &folder, QStringList &faults)
         for (const QString &fault : db->checkIntegrity())
             faults.append("Morvelane.mdb: " + fault);
         checkDesign(db->TableDefs(), faults);
+        for (const QString &part : db->foreignParts())
+            faults.append("Morvelane.mdb: the " + part + " is not the program's own");
     } catch (const RunTimeError &error) {
         faults.append("Morvelane.mdb: " + error.Description());
     }
@@ -58,28 +62,32 @@ void checkDataFile(const QString &folder, QStringList &faults)
 /// The first line that is no section, key, comment or blank; a damaged file seldom has only one.
 void checkIniForm(const QString &path, QStringList &faults)
 {
-    QFile file(path);
     const QString name = QFileInfo(path).fileName();
-    if (!file.open(QIODevice::ReadOnly)) {
-        faults.append(name + ": cannot be read");
+    QByteArray bytes;
+    if (!OnErrorGoToEnd([&] { bytes = readRegularFile(path); })) {
+        faults.append(name + ": cannot be read, or is no file of this folder");
         return;
     }
     static const QRegularExpression lineForm(R"(^\s*(;.*|\[[^\]]+\]\s*|[^=\s;\[][^=]*=.*)?$)");
+    const IniText ini(bytes);
     int number = 0;
-    while (!file.atEnd()) {
-        QByteArray bytes = file.readLine();
+    for (QByteArray line : ini.lines().toByteArray().split('\n')) {
         ++number;
-        if (number == 1 && bytes.startsWith("\xEF\xBB\xBF"))
-            bytes.remove(0, 3);
-        while (bytes.endsWith('\n') || bytes.endsWith('\r'))
-            bytes.chop(1);
+        while (line.endsWith('\r'))
+            line.chop(1);
         const bool control =
-            std::any_of(bytes.begin(), bytes.end(), [](char c) { return c >= 0 && c < 32 && c != '\t'; });
-        if (control || !lineForm.match(QString::fromUtf8(bytes)).hasMatch()) {
+            std::any_of(line.begin(), line.end(), [](char c) { return c >= 0 && c < 32 && c != '\t'; });
+        if (control || !lineForm.match(QString::fromUtf8(line)).hasMatch()) {
             faults.append(QString("%1, line %2: neither a section, a key nor a comment").arg(name).arg(number));
             return;
         }
     }
+}
+
+/// A link that leads nowhere is there, too.
+bool isThere(const QString &path)
+{
+    return QFileInfo::exists(path) || QFileInfo(path).isSymLink();
 }
 
 QString valueOf(const QString &file, const QString &section, const QString &key)
@@ -91,7 +99,7 @@ void checkReceiptCounters(const QString &folder, QStringList &faults)
 {
     const QString path = resolveIgnoringCase(folder + "/inf.rcb");
     // There is none before the first receipt.
-    if (!QFileInfo::exists(path))
+    if (!isThere(path))
         return;
     checkIniForm(path, faults);
     for (const QString &key : QStringList{"ID", "ID_Total"}) {
@@ -109,7 +117,7 @@ void checkLanguage(const QString &folder, const QString &language, QStringList &
     QStringList files;
     for (int number = 1; number <= LanguageFiles; ++number) {
         const QString path = resolveIgnoringCase(base + QString::number(number) + language.right(4));
-        if (QFileInfo::exists(path)) {
+        if (isThere(path)) {
             checkIniForm(path, faults);
             files.append(path);
         }
@@ -131,7 +139,7 @@ void checkLanguage(const QString &folder, const QString &language, QStringList &
 void checkConfiguration(const QString &folder, QStringList &faults)
 {
     const QString config = configFileOf(folder);
-    if (!QFileInfo::exists(config)) {
+    if (!isThere(config)) {
         faults.append("config.ini: is missing");
         return;
     }
@@ -141,6 +149,22 @@ void checkConfiguration(const QString &folder, QStringList &faults)
         faults.append("config.ini: [Config_Regional] Idioma names no language");
     else
         checkLanguage(folder, language, faults);
+}
+
+/// What else terminals look for, and whether those who have no business here can read any of it.
+void checkFolder(const QString &folder, QStringList &faults)
+{
+    if (!QFileInfo(resolveIgnoringCase(folder + "/Fotos")).isDir())
+        faults.append("Fotos: is missing, so no photo can be kept");
+    if (!QFileInfo(resolveIgnoringCase(folder + "/Caixa.wav")).isFile())
+        faults.append("Caixa.wav: is missing, so no sale is heard");
+
+    if (!QFileInfo(folder).permission(QFile::ExeOther))
+        return;
+    for (const char *name : {"Morvelane.mdb", "config.ini", "inf.rcb", "Fotos", "Fototemp.jpg"}) {
+        if (QFileInfo(resolveIgnoringCase(folder + '/' + name)).permission(QFile::ReadOther))
+            faults.append(QString(name) + ": strangers can read it (chmod -R o-rwx)");
+    }
 }
 
 } // namespace
@@ -153,5 +177,6 @@ QStringList checkCafe(const QString &folder)
     checkDataFile(folder, faults);
     checkConfiguration(folder, faults);
     checkReceiptCounters(folder, faults);
+    checkFolder(folder, faults);
     return faults;
 }

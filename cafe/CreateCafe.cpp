@@ -11,7 +11,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <system_error>
@@ -77,6 +81,42 @@ void requireRoomFor(const QString &target)
         throw RunTimeError(ErrorNumber::FileNotFound, there.absolutePath() + ": there is no such folder");
 }
 
+/// Beside the wanted folder, so that it can take its place in one step.
+class Workshop
+{
+public:
+    explicit Workshop(const QString &place)
+        : m_folder(place + "/.morvelane-cafe-XXXXXX"), m_use(m_folder.filePath(UseFile))
+    {
+        removeAbandoned(place);
+        // A process that ends in any way no longer holds it, however long ago it began.
+        m_use.setStaleLockTime(0);
+        if (!m_folder.isValid() || !m_use.tryLock(0))
+            throw RunTimeError(ErrorNumber::PathAccess, place + ": cannot be written");
+    }
+
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+private:
+    static constexpr auto UseFile = "in-use";
+
+    /// Folders of processes that were killed.
+    static void removeAbandoned(const QString &place)
+    {
+        for (const QFileInfo &folder : QDir(place).entryInfoList({".morvelane-cafe-??????"}, Kinds)) {
+            const QString file = folder.filePath() + '/' + UseFile;
+            QLockFile use(file);
+            use.setStaleLockTime(0);
+            if (QFileInfo::exists(file) && use.tryLock(0))
+                QDir(folder.filePath()).removeRecursively();
+        }
+    }
+    static constexpr QDir::Filters Kinds = QDir::Dirs | QDir::Hidden | QDir::NoSymLinks;
+
+    QTemporaryDir m_folder;
+    QLockFile m_use;
+};
+
 } // namespace
 
 void createCafe(const QString &folder, const CafeOptions &options)
@@ -86,11 +126,13 @@ void createCafe(const QString &folder, const CafeOptions &options)
     if (options.demo)
         requireDemoSizes(options);
 
-    // Everything is made in a hidden folder beside the wanted one, which takes its place in one step at the end.
-    const QTemporaryDir workshop(QFileInfo(target).absolutePath() + "/.cafe-XXXXXX");
-    if (!workshop.isValid())
-        throw RunTimeError(ErrorNumber::PathAccess, QFileInfo(target).absolutePath() + ": cannot be written");
-    const QString draft = workshop.filePath("cafe");
+    // Strangers have no business in a café, whatever the caller's other files are for.
+    const mode_t mask = umask(0);
+    umask(mask | S_IRWXO);
+    const auto restoreMask = qScopeGuard([=] { umask(mask); });
+
+    const Workshop workshop(QFileInfo(target).absolutePath());
+    const QString draft = workshop.path("cafe");
     makeFolder(draft);
     makeFolder(draft + "/Fotos");
     writeLanguages(draft);

@@ -41,9 +41,22 @@ QTextStream &out()
     return stream;
 }
 
+/// What a file holds must not steer the window in which it is shown.
+QString withoutControls(const QString &text)
+{
+    QString shown;
+    for (const QChar character : text) {
+        if (character.category() == QChar::Other_Control)
+            shown += QString("\\x%1").arg(character.unicode(), 2, 16, QChar('0'));
+        else
+            shown += character;
+    }
+    return shown;
+}
+
 void complain(const QString &text)
 {
-    QTextStream(stderr) << "morvelane-cafe: " << QString(text).replace('\n', ' ') << '\n';
+    QTextStream(stderr) << "morvelane-cafe: " << withoutControls(QString(text).replace('\n', ' ')) << '\n';
 }
 
 int countOf(const QCommandLineParser &parser, const QString &option, int fallback)
@@ -110,7 +123,7 @@ int runPoint(const QCommandLineParser &parser, const QStringList &arguments)
 
 QString escaped(QString text)
 {
-    return text.replace('\\', "\\\\").replace('\t', "\\t").replace('\n', "\\n").replace('\r', "\\r");
+    return withoutControls(text.replace('\\', "\\\\").replace('\t', "\\t").replace('\n', "\\n").replace('\r', "\\r"));
 }
 
 int runQuery(const QCommandLineParser &, const QStringList &arguments)

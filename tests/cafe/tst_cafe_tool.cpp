@@ -1,9 +1,12 @@
 #include "platform/files/IniProfile.h"
+#include "platform/jet/engine/SqlCipherConnection.h"
 
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <sys/stat.h>
 
 #include <memory>
 
@@ -99,7 +102,7 @@ private slots:
         row("two statements", 1, "", {"query", "@cafe", "Select * From Clientes; Delete From Clientes"});
         row("check of nothing", 1, "no such folder", {"check", "@new"});
         row("pointer to nothing", 1, "no café", {"point", "@"});
-        row("backup over the live file", 1, "exists", {"backup", "@cafe", "@cafe/Morvelane.mdb"});
+        row("backup over the live file", 1, "exists", {"backup", "@cafe", "@cafe/MORVELANE.mdb"});
     }
 
     void refuses()
@@ -151,6 +154,27 @@ private slots:
         QVERIFY(process.waitForFinished());
         QVERIFY(!QFileInfo::exists(at("cafe")));
         QCOMPARE(tool({"create", at("cafe")}).code, 0);
+        QCOMPARE(entries(m_place->path()), QStringList("cafe"));
+    }
+
+    void tellsWhatIsWrongWithTheFolder()
+    {
+        QCOMPARE(tool({"create", at("cafe")}).code, 0);
+        QVERIFY(QDir(at("cafe/Fotos")).removeRecursively() && QFile::remove(at("cafe/Caixa.wav")));
+        QVERIFY(QFile::setPermissions(at("cafe"), QFile::Permissions(0x7775)));
+        QVERIFY(QFile::setPermissions(at("cafe/config.ini"), QFile::Permissions(0x6664)));
+        QVERIFY(mkfifo(at("cafe/inf.rcb").toUtf8().constData(), 0600) == 0);
+        {
+            const auto access = FileAccess{at("cafe/Morvelane.mdb"), "qzt3172"};
+            SqlCipherConnection connection(access);
+            connection.run("CREATE TRIGGER extra AFTER INSERT ON Clientes BEGIN DELETE FROM Links; END");
+            connection.run("CREATE VIEW \"a\x1b[31m\" AS SELECT 1");
+        }
+        const Answer answer = tool({"check", at("cafe")});
+        for (const char *word : {"Fotos: is missing", "Caixa.wav: is missing", "config.ini: strangers",
+                                 "inf.rcb: cannot", "trigger extra is not", "view a\\x1b[31m is not"})
+            QVERIFY2(answer.err.contains(word), qPrintable(answer.err));
+        QCOMPARE(answer.err.count('\n'), 6);
     }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "platform/base/Err.h"
 #include "platform/files/Paths.h"
+#include "platform/files/SafeFile.h"
 #include "platform/jet/OpenFile.h"
 
 #include <QFileInfo>
@@ -63,4 +64,6 @@ void DBEngine::CompactDatabase(const QString &from, const QString &to, const QSt
         throw RunTimeError(ErrorNumber::CannotOpenFile, QString("\"%1\" exists already.").arg(to));
     storageEngine().open({source, passwordIn(connect)})->backupTo(target);
     storageEngine().open({target, passwordIn(locale)})->compact();
+    // It will stand where the other one stands, for all who work on that.
+    takeRights(target, source);
 }

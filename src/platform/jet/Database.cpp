@@ -111,6 +111,11 @@ QStringList Database::checkIntegrity() const
     return file().use([](EngineSession &session) { return session.faults(); });
 }
 
+QStringList Database::foreignParts() const
+{
+    return file().use([](EngineSession &session) { return session.foreignParts(); });
+}
+
 void Database::backupTo(const QString &path) const
 {
     file().use([&](EngineSession &session) { session.backupTo(resolveIgnoringCase(path)); });

@@ -41,7 +41,9 @@ public:
     void inTransaction(const std::function<void()> &body);
     /// Faults that the engine finds in the file; empty when it is sound.
     QStringList checkIntegrity() const;
-    /// Writes a consistent copy with the same password while others work on the file.
+    /// Triggers and views that somebody else put into the file, one line each.
+    QStringList foreignParts() const;
+    /// Writes a consistent copy with the same password while others work on the file; replaces none.
     void backupTo(const QString &path) const;
 
 private:

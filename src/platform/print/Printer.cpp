@@ -43,12 +43,17 @@ QString unusedFile(const QDir &folder, const QString &name)
     return file;
 }
 
-/// The text without the characters that some file system refuses.
+/// The text without the characters that some file system refuses, and not too long for one. Names are limited in bytes,
+/// 255 as a rule, and moment, number and ending come behind it.
 QString fileName(QString text)
 {
     static const QRegularExpression refused(R"([\x00-\x1f/\\:*?"<>|]+)");
-    constexpr int longest = 100;
-    return text.replace(refused, " ").simplified().left(longest);
+    constexpr int mostCharacters = 100;
+    constexpr int mostBytes = 200;
+    text = text.replace(refused, " ").simplified().left(mostCharacters);
+    while (QFile::encodeName(text).size() > mostBytes || (!text.isEmpty() && text.back().isHighSurrogate()))
+        text.chop(1);
+    return text;
 }
 
 } // namespace

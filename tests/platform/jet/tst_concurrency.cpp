@@ -82,9 +82,10 @@ void tst_concurrency::copiesWhileOthersWrite()
     const auto writer = startWriter(file, "outro", 100'000);
     waitForFirstRow(file);
     for (int i = 0; i < 5; ++i) {
-        file.db->backupTo(file.path("copia.mdb"));
+        const QString copied = file.path(QString("copia%1.mdb").arg(i));
+        file.db->backupTo(copied);
         QCOMPARE(writer->state(), QProcess::Running);
-        const DatabaseHandle copy = DataFile::openAt(file.path("copia.mdb"));
+        const DatabaseHandle copy = DataFile::openAt(copied);
         QCOMPARE(copy->checkIntegrity(), QStringList());
         const double rows = copy->OpenRecordset("Select Count(*) From Vendas")->Fields(0).number();
         const double stock = copy->OpenRecordset("Select Quantidade From Produtos")->Fields(0).number();

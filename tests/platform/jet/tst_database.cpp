@@ -172,13 +172,16 @@ private slots:
         const DataFile file;
         file.db->Execute("Insert into Vendas (Codigo,Nome) values (1,'ÁGUA')");
         const QString copy = file.path("copia.mdb");
-        file.write("copia.mdb", "an older copy");
+        const auto rights = [](const QString &path) { return int(QFileInfo(path).permissions()) & 0x777; };
+        QVERIFY(QFile::setPermissions(file.path(), QFile::ReadOwner | QFile::WriteOwner));
         file.db->backupTo(copy);
+        QCOMPARE(rights(copy), rights(file.path()));
         const DatabaseHandle copied = DataFile::openAt(copy);
         QCOMPARE(DataFile::answer(copied, "Select * From Vendas"), "1|ÁGUA|False");
         QCOMPARE(copied->schemaVersion(), 1);
 
-        QVERIFY(errorOf([&] { file.db->backupTo(file.path("DADOS.mdb")); }) != 0);
+        for (const char *taken : {"DADOS.mdb", "copia.mdb", "COPIA.mdb"})
+            QVERIFY(errorOf([&] { file.db->backupTo(file.path(taken)); }) != 0);
         QVERIFY(errorOf([&] { file.db->backupTo(file.path("")); }) != 0);
         QCOMPARE(QDir(file.path("")).entryList(QDir::Files), QStringList({"copia.mdb", "Dados.mdb"}));
         QCOMPARE(file.answer("Select Codigo From Vendas"), "1");

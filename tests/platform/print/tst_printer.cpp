@@ -64,6 +64,8 @@ private slots:
         printer.setCurrentY(30);
         printer.Print("MEIO");
         printer.Print("após");
+        // Its file's name would be too long, in bytes.
+        printer.setDocumentName(QString(120, u'€'));
         printer.EndDoc();
 
         const auto found = places(onlyDocument());

@@ -55,6 +55,8 @@ public:
 
     /// Faults in the file; empty when it is sound.
     virtual QStringList faults() = 0;
+    /// Triggers and views that this program did not put there, one line each: they would run at its statements.
+    virtual QStringList foreignParts() = 0;
     /// Mends what can be made anew from the file's own rows; raises when faults stay.
     virtual void repair() = 0;
     /// Gives unused room back.

@@ -1,14 +1,17 @@
 #include "platform/jet/engine/SqlCipherBackup.h"
 
 #include "platform/base/Err.h"
+#include "platform/files/SafeFile.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QScopeGuard>
+#include <QTemporaryFile>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 
 namespace {
@@ -26,14 +29,26 @@ void copyPages(SqlCipherConnection &source, SqlCipherConnection &target)
         target.raise(code == SQLITE_ERROR ? SQLITE_CORRUPT : code);
 }
 
-bool flush(const QString &path)
+/// A name that somebody else has taken meanwhile is not taken from him.
+bool renameToUnused(const QByteArray &from, const QByteArray &to)
 {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0)
-        return false;
-    const bool flushed = ::fsync(descriptor) == 0;
-    ::close(descriptor);
-    return flushed;
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    // Some network file systems don't know the flag.
+    return errno == EINVAL && ::link(from.constData(), to.constData()) == 0 && ::unlink(from.constData()) == 0;
+}
+
+/// The rights of the data file, without those that the user who makes the copy gives to none of his files.
+mode_t rightsOfCopy(const struct stat &source)
+{
+    const mode_t kept = ::umask(S_IRWXG | S_IRWXO);
+    ::umask(kept);
+    return source.st_mode & ACCESSPERMS & ~kept;
+}
+
+[[noreturn]] void refuse(const QString &path, const char *why)
+{
+    throw RunTimeError(ErrorNumber::DiskError, QString("\"%1\" %2.").arg(path, why));
 }
 
 } // namespace
@@ -41,21 +56,23 @@ bool flush(const QString &path)
 void backupSqlCipherFile(SqlCipherConnection &source, const QString &path)
 {
     const QFileInfo target(path);
-    if (target.isDir() ||
-        (target.exists() && target.canonicalFilePath() == QFileInfo(source.access().path).canonicalFilePath()))
-        throw RunTimeError(ErrorNumber::CannotOpenFile, QString("A backup cannot take the place of \"%1\".").arg(path));
-
-    const QString unfinished = QString("%1.%2.new").arg(path).arg(::getpid());
-    QFile::remove(unfinished);
-    const auto cleanUp = qScopeGuard([&] { QFile::remove(unfinished); });
+    if (target.exists() || target.isSymLink())
+        refuse(path, "exists already");
+    struct stat original = {};
+    QTemporaryFile unfinished(path + ".XXXXXX.new");
+    if (::stat(QFile::encodeName(source.access().path).constData(), &original) != 0 || !unfinished.open())
+        refuse(path, "cannot be written");
     {
-        SqlCipherConnection copy({unfinished, source.access().password}, SqlCipherConnection::Mode::Create);
+        SqlCipherConnection copy({unfinished.fileName(), source.access().password}, SqlCipherConnection::Mode::Create);
         // The source is held while the pages are copied; what is unfinished needs no journal and is flushed once.
         copy.run("PRAGMA journal_mode = OFF");
         copy.run("PRAGMA synchronous = OFF");
         copyPages(source, copy);
     }
-    if (!flush(unfinished) ||
-        std::rename(QFile::encodeName(unfinished).constData(), QFile::encodeName(path).constData()) != 0)
-        throw RunTimeError(ErrorNumber::DiskError, QString("\"%1\" cannot be written.").arg(path));
+    giveRights(unfinished.handle(), rightsOfCopy(original), original.st_gid);
+    if (::fsync(unfinished.handle()) != 0)
+        refuse(path, "cannot be written");
+    if (!renameToUnused(QFile::encodeName(unfinished.fileName()), QFile::encodeName(path)))
+        refuse(path, errno == EEXIST ? "exists already" : "cannot be written");
+    unfinished.setAutoRemove(false);
 }

@@ -94,14 +94,14 @@ void createIndex(SqlCipherConnection &connection, const TableDef &table, const Q
 
 // Two terminals that read the same maximum both store their row. The trigger lies in the file, so it serves every
 // program that writes there, and the number is found under the lock of the insert itself.
-void createRenumbering(SqlCipherConnection &connection, const TableDef &table)
+std::string renumbering(const TableDef &table)
 {
     const std::string name = quotedName(table.Name);
     const std::string key = quotedName(table.KeyField);
-    connection.run("CREATE TRIGGER " + quotedName(table.Name + " renumber") + " AFTER INSERT ON " + name +
-                   " WHEN EXISTS (SELECT 1 FROM " + name + " WHERE " + key + " = NEW." + key +
-                   " AND rowid <> NEW.rowid) BEGIN UPDATE " + name + " SET " + key + " = (SELECT max(" + key +
-                   ") FROM " + name + ") + 1 WHERE rowid = NEW.rowid; END");
+    return "CREATE TRIGGER " + quotedName(table.Name + " renumber") + " AFTER INSERT ON " + name +
+           " WHEN EXISTS (SELECT 1 FROM " + name + " WHERE " + key + " = NEW." + key +
+           " AND rowid <> NEW.rowid) BEGIN UPDATE " + name + " SET " + key + " = (SELECT max(" + key + ") FROM " +
+           name + ") + 1 WHERE rowid = NEW.rowid; END";
 }
 
 /// The text that made a table, with a field declared as a number instead.
@@ -143,6 +143,23 @@ Catalogue readSqlCipherCatalogue(SqlCipherConnection &connection)
     return Catalogue(tables);
 }
 
+QStringList foreignSqlCipherParts(SqlCipherConnection &connection)
+{
+    QStringList own;
+    const Catalogue catalogue = readSqlCipherCatalogue(connection);
+    for (const TableDef &table : catalogue.tables()) {
+        if (table.Key == KeyKind::Renumber)
+            own.append(QString::fromStdString(renumbering(table)));
+    }
+    QStringList foreign;
+    forEachRow(connection, "SELECT type, name, sql FROM sqlite_master WHERE type IN ('trigger', 'view')",
+               [&](sqlite3_stmt *row) {
+                   if (!own.contains(textColumn(row, 2)))
+                       foreign.append(textColumn(row, 0) + " " + textColumn(row, 1));
+               });
+    return foreign;
+}
+
 void createSqlCipherTable(SqlCipherConnection &connection, const TableDef &table)
 {
     std::string sql = "CREATE TABLE " + quotedName(table.Name);
@@ -157,7 +174,7 @@ void createSqlCipherTable(SqlCipherConnection &connection, const TableDef &table
         createIndex(connection, table, table.KeyField, keyIndexName(table.Name),
                     table.Key == KeyKind::Refuse ? "UNIQUE INDEX" : "INDEX");
     if (table.Key == KeyKind::Renumber)
-        createRenumbering(connection, table);
+        connection.run(renumbering(table));
     for (const QString &field : table.IndexedFields)
         createIndex(connection, table, field, table.Name + " " + field, "INDEX");
 }

@@ -187,6 +187,11 @@ QStringList SqlCipherSession::faults()
     return found;
 }
 
+QStringList SqlCipherSession::foreignParts()
+{
+    return foreignSqlCipherParts(m_connection);
+}
+
 void SqlCipherSession::repair()
 {
     m_connection.run("REINDEX");

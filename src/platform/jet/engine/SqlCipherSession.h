@@ -23,6 +23,7 @@ public:
     void createTable(const TableDef &table) override;
     void turnIntoNumbers(const FieldsToNumbers &change) override;
     QStringList faults() override;
+    QStringList foreignParts() override;
     void repair() override;
     void compact() override;
     void backupTo(const QString &path) override;
