@@ -43,12 +43,16 @@ CustomerList::CustomerList(Ui::frmcadastro_clientes &window, CustomerState &stat
 
 void CustomerList::Ordenar_Tabela(const QString &campo)
 {
+    ui.tab_clientes->inOneStep([&] { load(campo); });
+}
+
+void CustomerList::load(const QString &campo)
+{
     FlexGrid &grid = *ui.tab_clientes;
     RecordsetHandle rs;
     const LongWork work;
     OnErrorGoToEnd([&] {
         Abrir_Banco_Principal();
-        grid.setUpdatesEnabled(false);
         grid.Clear();
         QString format = "<          ";
         for (const char *key :
@@ -75,7 +79,6 @@ void CustomerList::Ordenar_Tabela(const QString &campo)
         fill(*rs);
         showCount(m_state.TotalClientes == 1);
     });
-    grid.setUpdatesEnabled(true);
     Fechar_Recordset(rs);
     Fechar_Recordsets_Globais();
 }
@@ -123,9 +126,11 @@ void CustomerList::showCustomer(int row, bool authorised)
 void CustomerList::addCustomer(double codigo)
 {
     FlexGrid &grid = *ui.tab_clientes;
-    grid.setRows(grid.Rows() + 1);
-    grid.setTextMatrix(grid.Rows() - 1, CustomerColumn::Codigo, Cstr(codigo));
-    showCustomer(grid.Rows() - 1, m_state.Autorizado == 1);
+    grid.inOneStep([&] {
+        grid.setRows(grid.Rows() + 1);
+        grid.setTextMatrix(grid.Rows() - 1, CustomerColumn::Codigo, Cstr(codigo));
+        showCustomer(grid.Rows() - 1, m_state.Autorizado == 1);
+    });
 }
 
 void CustomerList::countAdded()
@@ -188,8 +193,14 @@ void CustomerList::tab_clientes_Click()
     if (grid.Row() < 1)
         return;
     ui.txtnome_busca->setText(grid.TextMatrix(grid.Row(), CustomerColumn::Name));
-    m_state.LinhaSelecionada = grid.Row();
+    pick(grid.Row());
     m_state.ColunaClicada = static_cast<quint8>(grid.Col());
+}
+
+void CustomerList::pick(int row)
+{
+    m_state.LinhaSelecionada = row;
+    ui.tab_clientes->setPickedRow(row);
 }
 
 void CustomerList::tab_clientes_SelChange()

@@ -25,6 +25,9 @@ public:
     /// Goes to the customer of exactly that name, in any case; stays where there is none.
     void Localizar(const QString &texto);
 
+    /// Makes a row the one that the buttons act on; 0 for none.
+    void pick(int row);
+
     /// Writes the customer in the form into a row, but for its code.
     void showCustomer(int row, bool authorised);
     /// Adds the customer in the form at the end.
@@ -35,6 +38,7 @@ public:
     void enableButtons();
 
 private:
+    void load(const QString &campo);
     void countOne();
     void fill(Recordset &rs);
     void showCount(bool single);

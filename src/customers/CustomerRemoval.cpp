@@ -41,8 +41,8 @@ bool excluirClientes(Form &form, const FlexGrid &tab_clientes, const CustomerSta
 {
     const int picked = state.LinhaSelecionada;
     const int selected = tab_clientes.RowSel();
-    // The heading of the first column is made of blanks.
-    if (tab_clientes.Rows() == 1 ||
+    // The heading of the first column is made of blanks. The first customer of an empty list is nobody's pick yet.
+    if (tab_clientes.Rows() == 1 || picked < 1 ||
         tab_clientes.TextMatrix(tab_clientes.Row(), CustomerColumn::Codigo).trimmed().isEmpty()) {
         customerTexts.notice("MsgBox9");
         return false;

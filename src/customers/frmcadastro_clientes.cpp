@@ -37,7 +37,7 @@ frmcadastro_clientes::~frmcadastro_clientes() = default;
 void frmcadastro_clientes::Form_Load()
 {
     m_state.LinhaEditada = 0;
-    m_state.LinhaSelecionada = 0;
+    m_list->pick(0);
     Sempre_No_Topo(*this, true);
     m_form->maskPostalCode();
     m_state.ColunaOrdenada = 0;
@@ -51,7 +51,7 @@ void frmcadastro_clientes::Form_Load()
         m_form->Selecionar_Grupo_Padrao();
         m_form->takeTownOfCafe();
         if (ui->tab_clientes->Rows() >= 2)
-            m_state.LinhaSelecionada = 1;
+            m_list->pick(1);
     });
     m_form->Nick_Sequencial();
     Fechar_Recordsets_Globais();

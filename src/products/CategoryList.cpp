@@ -25,22 +25,24 @@ CategoryList::CategoryList(Ui::frmcadastro_categoria &window, CategoryState &sta
 void CategoryList::load()
 {
     FlexGrid &grid = *ui.tab_categorias;
-    grid.Clear();
-    grid.setFormatString("<       |<" + categoryTexts.text("tab_categorias1") + "|<" +
-                         categoryTexts.text("tab_categorias2"));
-    grid.setCols(CategoryColumn::Count);
-    grid.setRows(1);
+    grid.inOneStep([&] {
+        grid.Clear();
+        grid.setFormatString("<       |<" + categoryTexts.text("tab_categorias1") + "|<" +
+                             categoryTexts.text("tab_categorias2"));
+        grid.setCols(CategoryColumn::Count);
+        grid.setRows(1);
 
-    RecordsetHandle rs;
-    Abrir_Recordset(rs, BancoPrincipal, "Select * from Categoria Order By Nome");
-    // A row without a number is left out: nothing could be done with it here.
-    for (; rs && !rs->Eof(); rs->MoveNext())
-        OnErrorResumeNext([&] {
-            const QString name = rs->Fields("Nome").text();
-            addCategory(rs->Fields("Codigo").number(), name, name.toUpper() == m_state.CategoriaPadrao);
-        });
-    Fechar_Recordset(rs);
-    grid.setRow(0);
+        RecordsetHandle rs;
+        Abrir_Recordset(rs, BancoPrincipal, "Select * from Categoria Order By Nome");
+        // A row without a number is left out: nothing could be done with it here.
+        for (; rs && !rs->Eof(); rs->MoveNext())
+            OnErrorResumeNext([&] {
+                const QString name = rs->Fields("Nome").text();
+                addCategory(rs->Fields("Codigo").number(), name, name.toUpper() == m_state.CategoriaPadrao);
+            });
+        Fechar_Recordset(rs);
+        grid.setRow(0);
+    });
     showTotal();
 }
 
@@ -48,10 +50,12 @@ void CategoryList::addCategory(double codigo, const QString &name, bool isDefaul
 {
     FlexGrid &grid = *ui.tab_categorias;
     const int row = grid.Rows();
-    grid.setRows(row + 1);
-    grid.setTextMatrix(row, CategoryColumn::Codigo, Cstr(codigo));
-    grid.setTextMatrix(row, CategoryColumn::Name, name);
-    grid.setTextMatrix(row, CategoryColumn::Default, markOf(isDefault));
+    grid.inOneStep([&] {
+        grid.setRows(row + 1);
+        grid.setTextMatrix(row, CategoryColumn::Codigo, Cstr(codigo));
+        grid.setTextMatrix(row, CategoryColumn::Name, name);
+        grid.setTextMatrix(row, CategoryColumn::Default, markOf(isDefault));
+    });
 }
 
 void CategoryList::showCategory(int row, const QString &name)

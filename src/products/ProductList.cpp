@@ -67,20 +67,22 @@ ProductList::ProductList(Ui::frmcadastro_produtos &window, ProductState &state, 
 void ProductList::load()
 {
     FlexGrid &grid = *ui.tab_produtos;
-    grid.Clear();
-    grid.setFormatString(headings());
-    grid.setCols(ProductColumn::Count);
-    grid.setRows(1);
-    m_state.Total_Produtos = 0;
+    grid.inOneStep([&] {
+        grid.Clear();
+        grid.setFormatString(headings());
+        grid.setCols(ProductColumn::Count);
+        grid.setRows(1);
+        m_state.Total_Produtos = 0;
 
-    const LongWork work;
-    RecordsetHandle rs;
-    Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Order By Descrição");
-    if (rs)
-        fill(*rs);
-    Fechar_Recordset(rs);
-    grid.setRows(m_state.Total_Produtos + 1);
-    grid.setRow(0);
+        const LongWork work;
+        RecordsetHandle rs;
+        Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Order By Descrição");
+        if (rs)
+            fill(*rs);
+        Fechar_Recordset(rs);
+        grid.setRows(m_state.Total_Produtos + 1);
+        grid.setRow(0);
+    });
     m_state.LinhaSelecionada = 0;
     showCount();
 }
@@ -164,10 +166,12 @@ void ProductList::addProduct(double codigo, const ProductRecord &product)
 {
     FlexGrid &grid = *ui.tab_produtos;
     const int row = grid.Rows();
-    grid.setRows(row + 1);
-    grid.setTextMatrix(row, ProductColumn::Codigo, Cstr(codigo));
-    grid.setTextMatrix(row, ProductColumn::Supplier, product.Fornecedor);
-    showProduct(row, product);
+    grid.inOneStep([&] {
+        grid.setRows(row + 1);
+        grid.setTextMatrix(row, ProductColumn::Codigo, Cstr(codigo));
+        grid.setTextMatrix(row, ProductColumn::Supplier, product.Fornecedor);
+        showProduct(row, product);
+    });
     m_state.Total_Produtos = row;
     showCount();
 }

@@ -11,12 +11,14 @@
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
 
+#include <QSignalBlocker>
+
 SaleCart::SaleCart(Ui::frmvenda &window, SaleState &state, SaleDiscount &discount, SaleProducts &products,
                    QObject *parent)
     : QObject(parent), ui(window), m_state(state), m_discount(discount), m_products(products)
 {
     const auto takeRow = [this] {
-        if (!m_discount.Bloqueio_Desconto)
+        if (!m_discount.Bloqueio_Desconto && ui.tab_consumo->Row() > 0)
             m_state.Linha_Consumo = ui.tab_consumo->Row();
     };
     connect(ui.tab_consumo, &FlexGrid::Click, this, takeRow);
@@ -96,7 +98,7 @@ void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
 
     if (row == 0) {
         row = grid.Rows();
-        grid.setRows(row + 1);
+        addRow();
         grid.setTopRow(row);
     }
     grid.setTextMatrix(row, CartColumn::Description, descricao.toUpper());
@@ -115,6 +117,17 @@ void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
         });
     Fechar_Recordset(rs);
     showTotal();
+}
+
+void SaleCart::addRow()
+{
+    FlexGrid &grid = *ui.tab_consumo;
+    // After a sale no line is the one to remove until one is clicked, so the first line isn't highlighted either.
+    const bool none = m_state.Linha_Consumo == 0;
+    const QSignalBlocker untold(none ? &grid : nullptr);
+    grid.setRows(grid.Rows() + 1);
+    if (none)
+        grid.setRow(0);
 }
 
 void SaleCart::refuse(const QString &descricao, double quantidade, const QString &stock)

@@ -33,6 +33,7 @@ public:
 private:
     void cmdexcluir_Click();
     int rowOf(const QString &descricao) const;
+    void addRow();
     void refuse(const QString &descricao, double quantidade, const QString &stock);
 
     Ui::frmvenda &ui;

@@ -36,16 +36,26 @@ SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleD
             cmdbusca_Click();
     });
     connect(ui.tab_clientes, &FlexGrid::Click, this, &SaleCustomers::tab_clientes_Click);
-    connect(ui.tab_clientes, &FlexGrid::SelChange, this, &SaleCustomers::tab_clientes_SelChange);
+    connect(ui.tab_clientes, &FlexGrid::SelChange, this, [this] {
+        // While the window loads nobody is picked: its activation does that.
+        if (ui.tab_clientes->isVisible())
+            tab_clientes_SelChange();
+    });
     connect(ui.optavulsa, &QRadioButton::clicked, this, &SaleCustomers::optavulsa_Click);
     connect(ui.optcliente, &QRadioButton::clicked, this, &SaleCustomers::optcliente_Click);
 }
 
 void SaleCustomers::Listar_Clientes()
 {
+    ui.tab_clientes->inOneStep([this] { fill(); });
+}
+
+void SaleCustomers::fill()
+{
     FlexGrid &grid = *ui.tab_clientes;
     const LongWork work;
     Abrir_Banco_Principal();
+    const QString picked = grid.Row() > 0 ? grid.TextMatrix(grid.Row(), CustomerColumn::Codigo) : QString();
     grid.Clear();
     grid.setFormatString("<          |<" + saleTexts.text("tab_clientes1") + "|<" + saleTexts.text("tab_clientes2"));
     grid.setCols(3);
@@ -66,23 +76,11 @@ void SaleCustomers::Listar_Clientes()
         LongWork::goOn();
         for (const auto &each : fields)
             OnErrorResumeNext([&] { grid.setTextMatrix(row, each.first, rs->Fields(each.second).text()); });
+        // A visit to the customers' window leaves the buyer the same person, under another name, too.
+        if (grid.TextMatrix(row, CustomerColumn::Codigo) == picked)
+            grid.setRow(row);
     }
     Fechar_Recordset(rs);
-}
-
-void SaleCustomers::refill()
-{
-    const QString buyer = m_state.Nome_Cliente;
-    Listar_Clientes();
-    FlexGrid &grid = *ui.tab_clientes;
-    for (int row = 1; row < grid.Rows(); ++row) {
-        if (grid.TextMatrix(row, CustomerColumn::Name) == buyer) {
-            grid.setRow(row);
-            break;
-        }
-    }
-    tab_clientes_Click();
-    tab_clientes_SelChange();
 }
 
 bool SaleCustomers::Buscar_Cliente(const QString &termo, int inicio)

@@ -20,8 +20,6 @@ public:
     SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleDiscount &discount, QObject *parent);
 
     void Listar_Clientes();
-    /// Fills the list anew; the buyer stays the one who was chosen, or becomes the first when that one is gone.
-    void refill();
     /// Selects the first customer from a row on whose name or nick begins with the term.
     bool Buscar_Cliente(const QString &termo, int inicio);
     void ExibirFoto(const QString &nome);
@@ -36,6 +34,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void fill();
     void cmdbusca_Click();
     void takeSelectedCustomer();
     void setGridEnabled(bool enabled);

@@ -43,7 +43,7 @@ frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
     opensReceiptOptions(ui->lblconfigurar_recibo, ui->chkrecibo);
     connect(ui->cmdfinalizar, &QPushButton::clicked, this, [this] { m_confirmation->cmdfinalizar_Click(); });
     connect(ui->cmdcadastro_clientes, &QPushButton::clicked, this,
-            [this] { visit<frmcadastro_clientes>([this] { m_customers->refill(); }); });
+            [this] { visit<frmcadastro_clientes>([this] { Listar_Clientes(); }); });
     connect(ui->cmdcadastro_produtos, &QPushButton::clicked, this,
             [this] { visit<frmcadastro_produtos>([this] { Listar_Produtos(); }); });
     connect(ui->cmdcancelar, &QPushButton::clicked, this, [this] {

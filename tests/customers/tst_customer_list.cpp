@@ -7,6 +7,7 @@
 
 #include <QFile>
 #include <QImage>
+#include <QLineEdit>
 #include <QTest>
 
 /// The list of customers: sorting, searching, editing with what follows from another name or nick, removing, and the
@@ -234,19 +235,63 @@ private slots:
         }
     }
 
+    void beginsAtItsTopAgain()
+    {
+        CustomerDesk desk;
+        for (int codigo = 10; codigo < 70; ++codigo)
+            desk.add("Clientes", QString("Codigo=%1, Nome='C%1'").arg(codigo));
+        desk.open();
+        desk.enter("txtnome_busca", "c60");
+        QVERIFY(!desk.list().RowIsVisible(1));
+        // Keys alone pick nobody.
+        pressKey(desk.list(), Qt::Key_Down);
+        QCOMPARE(desk.highlighted(), QString("54-55"));
+        pressKey(desk.list(), Qt::Key_Space);
+        desk.expectQuestion("MsgBox10", "MsgBox1_2", vbQuestion, vbYes);
+        desk.expectNotice("MsgBox12");
+        desk.press("cmdexcluir");
+        QVERIFY(!desk.listed(1).contains("C61") && desk.list().RowIsVisible(1));
+        QCOMPARE(desk.highlighted(), QString("1-1"));
+    }
+
+    void picksNobodyInAnEmptyList()
+    {
+        CustomerDesk desk;
+        desk.open();
+        desk.select(1, 3);
+        desk.expectQuestion("MsgBox11", "MsgBox1_2", vbQuestion, vbYes);
+        desk.expectNotice("MsgBox13", "MsgBox13_2");
+        desk.press("cmdexcluir");
+        desk.expectOffer();
+        desk.enterCustomer("Zoé");
+        QCOMPARE(desk.highlighted(), QString());
+        desk.refuses("cmdeditar", desk.text("MsgBox4"));
+        desk.refuses("cmdexcluir", desk.text("MsgBox9"));
+        desk.edit(1);
+        QCOMPARE(desk.highlighted() + desk.shown("txtnome"), QString("1-1ZOÉ"));
+    }
+
     void servesTheSaleWindow()
     {
         CustomerDesk desk;
         auto &sale = Forms::use<frmvenda>();
         sale.Show();
         QVERIFY(QTest::qWaitForWindowActive(&sale));
+        auto &buyers = control<FlexGrid>(sale, "tab_clientes");
+        clickCell(buyers, 2, 1);
         desk.machine.whileAsleep = [&] {
-            desk.expectOffer();
-            desk.enterCustomer("Zoé");
+            for (const char *name : {"Alma", "Zoé"}) {
+                desk.expectOffer();
+                desk.enterCustomer(name);
+            }
             desk.press("cmdsair");
         };
         click(sale, "cmdcadastro_clientes");
-        QCOMPARE(control<FlexGrid>(sale, "tab_clientes").TextMatrix(4, 1), QString("ZOÉ"));
+        QCOMPARE(buyers.TextMatrix(5, 1), QString("ZOÉ"));
+        // The buyer is the same person, and the highlighted one.
+        QCOMPARE(buyers.TextMatrix(buyers.Row(), 1) + control<QLineEdit>(sale, "txtnome").text(),
+                 QString("BIA SÁBIA SÁ"));
+        QVERIFY(buyers.selectionModel()->isRowSelected(2));
         // The program ends while the sale window waits.
         desk.machine.whileAsleep = [] { Descarregar_Forms(); };
         click(sale, "cmdcadastro_clientes");

@@ -92,6 +92,11 @@ private slots:
         desk.refuses("cmdadicionar", desk.text("MsgBox1"));
         desk.fill("água", true);
         desk.press("cmdadicionar");
+        QCOMPARE(desk.highlighted(), QString("1-1"));
+        desk.expectRemoval(1, 1);
+        desk.press("cmdremover");
+        desk.fill("água", true);
+        desk.press("cmdadicionar");
         // Added on another terminal: the name is taken, and no number is used twice.
         desk.addCategory(8, "FRIOS");
         desk.fill("frios", true);

@@ -28,6 +28,9 @@ private slots:
         desk.fill({"saldo", "", "1", "1", "", "", "1"});
         desk.press("cmdadicionar");
         QCOMPARE(desk.row(1), QString("1|SALDO||---|-|1|1|1,00|------|Sim|-------------"));
+        QCOMPARE(desk.highlighted() + desk.shown("txtdescrição_busca"), QString("1-1SALDO"));
+        desk.press("cmdeditar");
+        QCOMPARE(desk.shown("txtdescrição"), QString("SALDO"));
     }
 
     void findsByTheStartOfTheDescription()

@@ -37,10 +37,19 @@ private slots:
         QCOMPARE(counter.shown("lbltotal"), QString("R$ 0,01"));
         counter.open();
         counter.put("BALA");
+        counter.put("12", "2");
+        clickCell(counter.list(), 2, 1);
+        counter.press("cmdexcluir");
+        QCOMPARE(counter.highlighted(), QString("1-1"));
+        counter.press("cmdexcluir");
+        QCOMPARE(counter.shown("lbltotal"), QString("R$ 0,00"));
+        counter.put("BALA");
+        QCOMPARE(counter.highlighted(), QString("1-1"));
         counter.sell("10");
         // After a sale no row is the one to remove: the cart is emptied and the total stays.
         counter.put("BALA");
         counter.put("12");
+        QCOMPARE(counter.highlighted(), QString());
         counter.press("cmdexcluir");
         QCOMPARE(counter.cart(), QStringList());
         QCOMPARE(counter.shown("lbltotal"), QString("R$ 20,00"));

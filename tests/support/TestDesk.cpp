@@ -81,6 +81,12 @@ QString TestDesk::row(int row)
     return texts.join('|');
 }
 
+QString TestDesk::highlighted()
+{
+    const QItemSelection rows = list().selectionModel()->selection();
+    return rows.isEmpty() ? QString() : QString("%1-%2").arg(rows.first().top() + 1).arg(rows.first().bottom() + 1);
+}
+
 QStringList TestDesk::listed(int column)
 {
     QStringList texts;

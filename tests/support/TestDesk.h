@@ -64,6 +64,8 @@ public:
     QStringList stored(const QString &fields, const QString &table = {});
     /// A row of the list, with "|" between its texts.
     QString row(int row);
+    /// The rows of the list that are highlighted, such as "2-4".
+    QString highlighted();
     /// A column of the list.
     QStringList listed(int column);
 

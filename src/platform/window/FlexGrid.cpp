@@ -5,9 +5,11 @@
 #include "platform/window/FlexGridHeadings.h"
 #include "platform/window/FlexGridModel.h"
 
+#include <QScopeGuard>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -58,11 +60,15 @@ void FlexGrid::setRows(int rows)
 {
     if (rows < 1)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
+    Selection selection = m_selection;
     // The first rows of all make the first one current; later ones leave a Row 0 alone.
     if (Rows() == 1 && rows > 1)
-        m_selection.row = m_selection.rowSel = 1;
+        selection.row = selection.rowSel = 1;
     m_model->setRows(rows);
-    adaptSelection();
+    // What is filled anew begins at its top.
+    if (rows == 1)
+        verticalScrollBar()->setValue(0);
+    adaptSelection(selection);
 }
 
 int FlexGrid::Cols() const
@@ -80,7 +86,7 @@ void FlexGrid::setCols(int cols)
     m_model->setCols(cols);
     for (int col = 0; col < widths.size(); ++col)
         setColumnWidth(col, widths.at(col));
-    adaptSelection();
+    adaptSelection(m_selection);
 }
 
 void FlexGrid::setRow(int row)
@@ -207,7 +213,37 @@ void FlexGrid::RemoveItem(int row)
     if (row == 0 || Rows() == 2)
         throw RunTimeError(cannotRemoveLastRow, "The headings and the last row can't be removed");
     m_model->removeRow(row);
-    adaptSelection();
+    adaptSelection(m_selection, row <= std::max(Row(), RowSel()));
+}
+
+void FlexGrid::inOneStep(const std::function<void()> &change)
+{
+    {
+        ++m_steps;
+        setUpdatesEnabled(false);
+        const auto settle = qScopeGuard([this] {
+            if (--m_steps > 0)
+                return;
+            showSelection();
+            setUpdatesEnabled(true);
+        });
+        change();
+    }
+    if (m_steps == 0 && std::exchange(m_untold, false))
+        emit SelChange();
+}
+
+int FlexGrid::pickedRow() const
+{
+    // While the button is down the row under it is about to be picked.
+    const int row = m_pressed ? Row() : m_picked.value_or(Row());
+    return row < Rows() ? row : 0;
+}
+
+void FlexGrid::setPickedRow(int row)
+{
+    m_picked = row;
+    showSelection();
 }
 
 void FlexGrid::requireRow(int row) const
@@ -224,36 +260,41 @@ void FlexGrid::requireCol(int col) const
 
 void FlexGrid::select(const Selection &selection)
 {
-    if (selection == m_selection)
-        return;
-    m_selection = selection;
-    showSelection();
-    emit SelChange();
+    if (selection != m_selection)
+        adaptSelection(selection);
 }
 
 void FlexGrid::showSelection()
 {
+    if (m_steps > 0)
+        return;
     if (Row() == 0) {
         selectionModel()->clear();
         return;
     }
-    const int top = std::max(std::min(Row(), RowSel()), 1);
-    const int bottom = std::max(Row(), RowSel());
-    const QItemSelection rows(m_model->index(top - 1, 0), m_model->index(bottom - 1, Cols() - 1));
+    QItemSelection rows;
+    if (const int picked = pickedRow(); picked > 0) {
+        const int other = std::max(RowSel(), 1);
+        rows.select(m_model->index(std::min(picked, other) - 1, 0),
+                    m_model->index(std::max(picked, other) - 1, Cols() - 1));
+    }
     selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
     selectionModel()->setCurrentIndex(m_model->index(std::max(RowSel(), 1) - 1, Col()), QItemSelectionModel::NoUpdate);
 }
 
-/// Brings the selection back among the rows and columns that are left.
-void FlexGrid::adaptSelection()
+/// Takes a selection as far as there are rows and columns for it. `otherRow` says that a row bears another's number.
+void FlexGrid::adaptSelection(const Selection &selection, bool otherRow)
 {
-    const int lastRow = Rows() - 1;
-    const int lastCol = Cols() - 1;
-    m_selection.row = std::min(m_selection.row, lastRow);
-    m_selection.rowSel = std::min(m_selection.rowSel, lastRow);
-    m_selection.col = std::min(m_selection.col, lastCol);
-    m_selection.colSel = std::min(m_selection.colSel, lastCol);
+    const Selection before = m_selection;
+    m_selection = {std::min(selection.row, Rows() - 1), std::min(selection.rowSel, Rows() - 1),
+                   std::min(selection.col, Cols() - 1), std::min(selection.colSel, Cols() - 1)};
     showSelection();
+    if (!otherRow && m_selection == before)
+        return;
+    if (m_steps > 0)
+        m_untold = true;
+    else
+        emit SelChange();
 }
 
 void FlexGrid::fitRowsToFont()

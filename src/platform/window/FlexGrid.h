@@ -4,6 +4,7 @@
 #include <QTableView>
 
 #include <functional>
+#include <optional>
 
 class FlexGridModel;
 
@@ -18,6 +19,7 @@ class FlexGrid : public QTableView
     Q_PROPERTY(int Rows READ Rows WRITE setRows)
     Q_PROPERTY(int Cols READ Cols WRITE setCols)
     Q_PROPERTY(QString FormatString READ FormatString WRITE setFormatString)
+    Q_PROPERTY(bool ranges READ ranges WRITE setRanges)
 
 public:
     explicit FlexGrid(QWidget *parent = nullptr);
@@ -39,6 +41,14 @@ public:
     void setCol(int col);
     int ColSel() const { return m_selection.colSel; }
     void setColSel(int col);
+
+    /// Whether Shift and a drag select several rows; a list whose buttons act on one row shows only one.
+    bool ranges() const { return m_ranges; }
+    void setRanges(bool ranges) { m_ranges = ranges; }
+    /// For a list in which keys move on and only a click or Space picks: the rows from the picked one to `RowSel` are
+    /// highlighted, and none while it is 0. In other lists the current row is the picked one.
+    void setPickedRow(int row);
+    int pickedRow() const;
 
     void setTopRow(int row);
     /// Whether any part of the row is in view.
@@ -69,12 +79,16 @@ public:
     void Clear();
     /// The headings and the last row beside them can't be removed.
     void RemoveItem(int row);
+    /// Changes texts, rows and columns without repainting meanwhile. Whatever becomes of the selection is told once, at
+    /// the end.
+    void inOneStep(const std::function<void()> &change);
 
 signals:
     /// The attendant clicked a cell or pressed Space in the list, or clicked a heading. A heading gives
     /// its column to `Col` and leaves the rows as they are.
     void Click();
-    /// The selection changed, by the attendant or by the program. Rows and columns that come or go tell nothing.
+    /// The selection changed, or another row bears its number: by the attendant, by the program, by rows that come or
+    /// go.
     void SelChange();
 
 protected:
@@ -99,8 +113,10 @@ private:
     void requireCol(int col) const;
     void select(const Selection &selection);
     void showSelection();
-    void adaptSelection();
-    void moveTo(int row, int col, bool extend);
+    void adaptSelection(const Selection &selection, bool otherRow = false);
+    int anchorOf(const QInputEvent &event) const;
+    void selectFrom(int anchor, int row, int col);
+    void moveTo(int row, int col, int anchor);
     int rowNear(int y) const;
     void headingClicked(int col);
     void fitRowsToFont();
@@ -108,6 +124,10 @@ private:
 
     FlexGridModel *m_model;
     Selection m_selection;
+    std::optional<int> m_picked;
     QString m_formatString;
+    bool m_ranges = true;
     bool m_pressed = false;
+    int m_steps = 0;
+    bool m_untold = false;
 };

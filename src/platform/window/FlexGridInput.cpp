@@ -49,32 +49,30 @@ void FlexGrid::keyPressEvent(QKeyEvent *event)
         return;
     }
     if (Rows() > 1)
-        moveTo(std::clamp(row, 1, Rows() - 1), std::clamp(col, 0, Cols() - 1), event->modifiers() & Qt::ShiftModifier);
+        moveTo(std::clamp(row, 1, Rows() - 1), std::clamp(col, 0, Cols() - 1), anchorOf(*event));
 }
 
 void FlexGrid::mousePressEvent(QMouseEvent *event)
 {
     const QPoint place = event->position().toPoint();
     const int row = rowAt(place.y()) + 1;
+    const int anchor = anchorOf(*event);
     m_pressed = event->button() == Qt::LeftButton && row > 0;
     if (!m_pressed)
         return;
     // Beside the last column the click means it.
     const int column = columnAt(place.x());
     const int col = column < 0 ? Cols() - 1 : column;
-    if (event->modifiers() & Qt::ShiftModifier && Row() > 0)
-        select({Row(), row, Col(), col});
-    else
-        select({row, row, col, col});
+    selectFrom(anchor, row, col);
 }
 
 void FlexGrid::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_pressed || Rows() < 2)
+    if (!m_ranges || !m_pressed || Rows() < 2)
         return;
     const int row = rowNear(event->position().toPoint().y());
     if (row != RowSel())
-        moveTo(row, ColSel(), true);
+        moveTo(row, ColSel(), Row());
 }
 
 void FlexGrid::mouseReleaseEvent(QMouseEvent *event)
@@ -107,14 +105,25 @@ int FlexGrid::rowNear(int y) const
     return std::clamp(row + (y < 0 ? -1 : 0) + (y >= height ? 1 : 0), 1, Rows() - 1);
 }
 
-void FlexGrid::moveTo(int row, int col, bool extend)
+/// The row from which Shift selects: the one picked, so that what is highlighted grows or shrinks; 0 for none.
+int FlexGrid::anchorOf(const QInputEvent &event) const
+{
+    return m_ranges && event.modifiers() & Qt::ShiftModifier && Row() > 0 ? pickedRow() : 0;
+}
+
+void FlexGrid::selectFrom(int anchor, int row, int col)
+{
+    if (anchor > 0)
+        select({anchor, row, Col(), col});
+    else
+        select({row, row, col, col});
+}
+
+void FlexGrid::moveTo(int row, int col, int anchor)
 {
     // Scrolled before anyone is told, so that a window that keeps the row in view finds it there.
     scrollTo(model()->index(row - 1, col));
-    if (extend && Row() > 0)
-        select({Row(), row, Col(), col});
-    else
-        select({row, row, col, col});
+    selectFrom(anchor, row, col);
 }
 
 void FlexGrid::headingClicked(int col)

@@ -67,6 +67,48 @@ private slots:
         QVERIFY(visible);
     }
 
+    void tellsOfEachChangeOfItsRow()
+    {
+        QStringList told;
+        connect(m_grid.get(), &FlexGrid::SelChange, this, [&] {
+            told += QString::number(m_grid->Row()) + selected() + m_grid->TextMatrix(m_grid->Row(), 1).trimmed();
+        });
+        m_grid->setRow(30);
+        m_grid->RemoveItem(30);
+        m_grid->RemoveItem(3);
+        m_grid->setRow(2);
+        // Another row bears the number, and the rows behind it don't matter.
+        m_grid->RemoveItem(2);
+        m_grid->RemoveItem(5);
+        m_grid->setRows(1);
+        QCOMPARE(told, (QStringList{"3030-30N30", "2929-29N29", "2828-28N29", "22-2N2", "22-2N4", "00 rangesNome"}));
+        told.clear();
+        m_grid->inOneStep([this] {
+            m_grid->setRows(3);
+            m_grid->inOneStep([this] { m_grid->setTextMatrix(1, 1, "A"); });
+        });
+        QVERIFY(m_grid->updatesEnabled());
+        QCOMPARE(told, QStringList("11-1A"));
+    }
+
+    void keysMoveOnFromThePickedRow()
+    {
+        connect(m_grid.get(), &FlexGrid::Click, this, [this] { m_grid->setPickedRow(m_grid->Row()); });
+        m_grid->setPickedRow(0);
+        QCOMPARE(selected(), QString("0 ranges"));
+        QTest::keyClick(m_grid.get(), Qt::Key_Down);
+        QTest::keyClick(m_grid.get(), Qt::Key_Space);
+        QTest::keyClick(m_grid.get(), Qt::Key_End);
+        QCOMPARE(selected(), QString("2-30"));
+        QTest::keyClick(m_grid.get(), Qt::Key_Up, Qt::ShiftModifier);
+        QCOMPARE(std::pair(m_grid->Row(), selected()), std::pair(2, QString("2-29")));
+        QTest::keyClick(m_grid.get(), Qt::Key_Home);
+        QTest::mousePress(m_grid->viewport(), Qt::LeftButton, {}, place(4, 0));
+        QCOMPARE(selected(), QString("4-4"));
+        QTest::mouseRelease(m_grid->viewport(), Qt::LeftButton, {}, place(4, 0));
+        QCOMPARE(selected(), QString("4-4"));
+    }
+
 private:
     QString selected() const
     {
