@@ -140,6 +140,8 @@ private slots:
     void keepsStockAndSupplierOfTheReservedProduct()
     {
         ProductDesk desk;
+        // Longer than anyone can type them.
+        desk.change("Produtos", "Quantidade='123456', Cod='ABCDE', Cod_Barra='12345678901234' Where Codigo=1");
         desk.open();
         const auto enabled = [&] {
             QString answer;
@@ -153,8 +155,8 @@ private slots:
             desk.type("txtvalor_unitario", "7");
             desk.expectSave(answer);
             desk.press("cmdeditar");
-            QCOMPARE(desk.stored("Quantidade,Estoque_Min,Valor_Unitario,Fornecedor").first(),
-                     QString("10|2|7,00|SERRA"));
+            QCOMPARE(desk.stored("Quantidade,Estoque_Min,Valor_Unitario,Fornecedor,Cod,Cod_Barra").first(),
+                     QString("123456|2|7,00|SERRA|ABCDE|12345678901234"));
             QCOMPARE(enabled(), QString(answer == vbYes ? "111" : "110"));
         }
     }

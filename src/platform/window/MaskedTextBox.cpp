@@ -42,8 +42,7 @@ TextBox::State MaskedTextBox::shaped(const State &before, const State &after) co
         return after;
 
     const qsizetype end = before.text.size() - (after.text.size() - after.caret);
-    const QStringView head = QStringView(after.text).first(std::min<qsizetype>(end, after.caret));
-    const auto begin = std::mismatch(head.begin(), head.end(), before.text.begin()).first - head.begin();
+    const qsizetype begin = editBegin(before, after);
     const QStringView typed = QStringView(after.text).sliced(begin, after.caret - begin);
     if (!typed.isEmpty() && !concerns(typed))
         return before;

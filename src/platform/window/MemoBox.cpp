@@ -32,16 +32,9 @@ void MemoBox::setText(const QString &text)
 {
     {
         const QSignalBlocker once(this);
-        setPlainText(firstCodePoints(text, m_limit));
+        setPlainText(text);
     }
     emit Change();
-}
-
-void MemoBox::setMaxLength(int limit)
-{
-    m_limit = limit;
-    if (codePoints(text()) > limit)
-        setText(text());
 }
 
 void MemoBox::keyPressEvent(QKeyEvent *event)
@@ -67,6 +60,8 @@ void MemoBox::inputMethodEvent(QInputMethodEvent *event)
 
 void MemoBox::insertFromMimeData(const QMimeData *source)
 {
+    if (room() <= 0)
+        return;
     QMimeData fitting;
     fitting.setText(firstCodePoints(source->text(), room()));
     QPlainTextEdit::insertFromMimeData(&fitting);

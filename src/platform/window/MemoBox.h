@@ -17,9 +17,9 @@ public:
     /// Fires `Change`, even where the text stays the same.
     void setText(const QString &text);
 
-    /// The limit counts characters, not their code units.
+    // As those of TextBox.
     int maxLength() const { return m_limit; }
-    void setMaxLength(int limit);
+    void setMaxLength(int limit) { m_limit = limit; }
 
 signals:
     // As those of TextBox.

@@ -39,18 +39,10 @@ void TextBox::setText(const QString &text)
 {
     m_wanted.reset();
     m_reshaped = false;
-    const QString fitting = firstCodePoints(text, m_limit);
-    if (fitting == this->text())
+    if (text == this->text())
         emit Change();
     else
-        QLineEdit::setText(fitting);
-}
-
-void TextBox::setMaxLength(int limit)
-{
-    m_limit = limit;
-    if (codePoints(text()) > limit)
-        setText(text());
+        QLineEdit::setText(text);
 }
 
 void TextBox::setCaretToEnd()
@@ -59,7 +51,7 @@ void TextBox::setCaretToEnd()
     end(false);
 }
 
-TextBox::State TextBox::shaped(const State &, const State &after) const
+TextBox::State TextBox::shaped(const State &before, const State &after) const
 {
     State result = after;
     // The box has one line: what was pasted with breaks and tabs has blanks instead.
@@ -67,11 +59,23 @@ TextBox::State TextBox::shaped(const State &, const State &after) const
         if (character.isSpace())
             character = ' ';
     if (const int excess = codePoints(after.text) - m_limit; excess > 0) {
-        const qsizetype units = codeUnitsBefore(after.text, after.caret, excess);
+        // Nothing goes but what came in just now: a longer text of the program's stays, and can be shortened.
+        const int added = codePoints(
+            QStringView(after.text).sliced(editBegin(before, after)).chopped(after.text.size() - after.caret));
+        if (added > 0 && excess >= added)
+            return before;
+        const qsizetype units = codeUnitsBefore(after.text, after.caret, std::min(excess, added));
         result.caret -= static_cast<int>(units);
         result.text.remove(result.caret, units);
     }
     return result;
+}
+
+qsizetype TextBox::editBegin(const State &before, const State &after)
+{
+    const qsizetype end = before.text.size() - (after.text.size() - after.caret);
+    const QStringView head = QStringView(after.text).first(std::min<qsizetype>(end, after.caret));
+    return std::mismatch(head.begin(), head.end(), before.text.begin()).first - head.begin();
 }
 
 bool TextBox::admits(const State &after)

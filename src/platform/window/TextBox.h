@@ -19,9 +19,10 @@ public:
     /// Fires `Change`, even where the text stays the same.
     void setText(const QString &text);
 
-    /// The limit counts characters, not their code units, so that 50 emoji fit where 50 letters do.
+    /// The limit binds the attendant alone: a text that the program sets stays whole. It counts characters, not their
+    /// code units, so that 50 emoji fit where 50 letters do.
     int maxLength() const { return m_limit; }
-    void setMaxLength(int limit);
+    void setMaxLength(int limit) { m_limit = limit; }
 
     /// Puts the keyboard focus here with the caret behind the last character.
     void setCaretToEnd();
@@ -47,6 +48,8 @@ protected:
     /// What becomes of an edit of the attendant's that would lead from one state to another: typed, pasted, dropped,
     /// composed or deleted.
     virtual State shaped(const State &before, const State &after) const;
+    /// Where an edit begins that ends at the caret.
+    static qsizetype editBegin(const State &before, const State &after);
 
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
