@@ -2,6 +2,7 @@
 
 #include "platform/base/Err.h"
 #include "platform/text/UpperPrefix.h"
+#include "platform/window/FlexGridColumns.h"
 #include "platform/window/FlexGridHeadings.h"
 #include "platform/window/FlexGridModel.h"
 
@@ -27,6 +28,7 @@ FlexGrid::FlexGrid(QWidget *parent) : QTableView(parent), m_model(new FlexGridMo
 {
     setModel(m_model);
     setHorizontalHeader(new FlexGridHeadings(this));
+    m_columns = new FlexGridColumns(this, m_model);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &FlexGrid::headingClicked);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -80,12 +82,8 @@ void FlexGrid::setCols(int cols)
 {
     if (cols < 1)
         throw RunTimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
-    QList<int> widths;
-    for (int col = 0; col < std::min(cols, Cols()); ++col)
-        widths.append(columnWidth(col));
     m_model->setCols(cols);
-    for (int col = 0; col < widths.size(); ++col)
-        setColumnWidth(col, widths.at(col));
+    m_columns->arrange();
     adaptSelection(m_selection);
 }
 
@@ -160,6 +158,10 @@ void FlexGrid::setTextMatrix(int row, int col, const QString &text)
     requireRow(row);
     requireCol(col);
     m_model->setText(row, col, text);
+    if (m_steps > 0)
+        return;
+    if (row > 0)
+        m_columns->makeRoomFor(col, text);
     repaintTexts();
 }
 
@@ -170,7 +172,6 @@ void FlexGrid::setFormatString(const QString &format)
     if (columns.size() > Cols())
         setCols(int(columns.size()));
     ensurePolished();
-    const QFontMetrics metrics(horizontalHeader()->font());
     for (int col = 0; col < columns.size(); ++col) {
         QString heading = columns.at(col);
         const QChar mark = heading.isEmpty() ? QChar() : heading.front();
@@ -178,16 +179,15 @@ void FlexGrid::setFormatString(const QString &format)
         if (mark == '<' || mark == '^' || mark == '>')
             heading.remove(0, 1);
         m_model->setText(0, col, heading);
-        // Blanks head a column of numbers, and are narrower than those.
-        const int least = heading.trimmed().isEmpty() ? metrics.horizontalAdvance("000000") : 0;
-        setColumnWidth(col, std::max(metrics.horizontalAdvance(heading), least) + 2 * cellMargin);
     }
+    m_columns->arrange();
     repaintTexts();
 }
 
 void FlexGrid::setCellPicture(const QPixmap &picture)
 {
     m_model->setPicture(Row(), Col(), picture);
+    m_columns->arrange();
     repaintTexts();
 }
 
@@ -224,6 +224,7 @@ void FlexGrid::inOneStep(const std::function<void()> &change)
         const auto settle = qScopeGuard([this] {
             if (--m_steps > 0)
                 return;
+            m_columns->measure();
             showSelection();
             setUpdatesEnabled(true);
         });
@@ -280,6 +281,8 @@ void FlexGrid::showSelection()
     }
     selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
     selectionModel()->setCurrentIndex(m_model->index(std::max(RowSel(), 1) - 1, Col()), QItemSelectionModel::NoUpdate);
+    // The frame of the row in which the keys stand goes with it.
+    viewport()->update();
 }
 
 /// Takes a selection as far as there are rows and columns for it. `otherRow` says that a row bears another's number.

@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 
+class FlexGridColumns;
 class FlexGridModel;
 
 /// The flexible grid: texts in rows and columns, row 0 being the headings.
@@ -65,7 +66,7 @@ public:
 
     QString FormatString() const { return m_formatString; }
     /// Columns separated by "|": an optional "<", "^" or ">" for the alignment, then the heading, whose length with its
-    /// blanks sizes the column; the last column takes what is left. Columns beyond the text are kept.
+    /// blanks is the least width of the column. Columns beyond the text are kept.
     void setFormatString(const QString &format);
 
     /// Picture of the current cell; a null picture removes it.
@@ -98,6 +99,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     struct Selection
@@ -123,6 +126,7 @@ private:
     void repaintTexts();
 
     FlexGridModel *m_model;
+    FlexGridColumns *m_columns;
     Selection m_selection;
     std::optional<int> m_picked;
     QString m_formatString;

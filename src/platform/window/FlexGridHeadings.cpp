@@ -7,13 +7,15 @@
 
 namespace {
 constexpr int pictureMargin = 4;
-}
+constexpr int leastWidth = 16;
+} // namespace
 
 FlexGridHeadings::FlexGridHeadings(QWidget *parent) : QHeaderView(Qt::Horizontal, parent)
 {
     setSectionsClickable(true);
     setHighlightSections(false);
-    setStretchLastSection(true);
+    // A column of two digits is narrower than the style would have it.
+    setMinimumSectionSize(leastWidth);
 }
 
 QPixmap FlexGridHeadings::picture(int col) const
@@ -21,14 +23,18 @@ QPixmap FlexGridHeadings::picture(int col) const
     return static_cast<const FlexGridModel *>(model())->picture(0, col);
 }
 
+int FlexGridHeadings::pictureRoom(int col) const
+{
+    const QPixmap mark = picture(col);
+    return mark.isNull() ? 0 : int(mark.deviceIndependentSize().width()) + 3 * pictureMargin;
+}
+
 void FlexGridHeadings::initStyleOptionForIndex(QStyleOptionHeader *option, int logicalIndex) const
 {
     QHeaderView::initStyleOptionForIndex(option, logicalIndex);
     option->text = option->text.trimmed();
-    if (const QPixmap mark = picture(logicalIndex); !mark.isNull()) {
-        const int room = option->rect.width() - int(mark.deviceIndependentSize().width()) - 3 * pictureMargin;
-        option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, room);
-    }
+    if (const int taken = pictureRoom(logicalIndex); taken > 0)
+        option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, option->rect.width() - taken);
 }
 
 void FlexGridHeadings::paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const

@@ -10,6 +10,9 @@ class FlexGridHeadings : public QHeaderView
 public:
     explicit FlexGridHeadings(QWidget *parent);
 
+    /// What the picture of a heading takes of its width.
+    int pictureRoom(int col) const;
+
 protected:
     void initStyleOptionForIndex(QStyleOptionHeader *option, int logicalIndex) const override;
     void paintSection(QPainter *painter, const QRect &rect, int logicalIndex) const override;

@@ -2,9 +2,12 @@
 
 #include "platform/window/FlexGrid.h"
 
+#include "platform/window/FlexGridColumns.h"
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -91,8 +94,30 @@ void FlexGrid::mouseDoubleClickEvent(QMouseEvent *event)
 void FlexGrid::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         fitRowsToFont();
+        m_columns->measure();
+    }
+}
+
+void FlexGrid::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    m_columns->arrange();
+}
+
+void FlexGrid::paintEvent(QPaintEvent *event)
+{
+    QTableView::paintEvent(event);
+    if (!hasFocus() || RowSel() < 1)
+        return;
+    // Where the arrow keys stand, be it among the rows picked or beside them.
+    const bool picked = selectionModel()->isRowSelected(RowSel() - 1);
+    QRect frame(0, rowViewportPosition(RowSel() - 1), viewport()->width(), rowHeight(RowSel() - 1));
+    frame.setRight(std::min(frame.right(), horizontalHeader()->length() - horizontalHeader()->offset() - 1));
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().color(picked ? QPalette::HighlightedText : QPalette::Link)));
+    painter.drawRect(frame.adjusted(1, 1, -2, -2));
 }
 
 /// The row at a height of the viewport; beyond its edges the next row that isn't in view yet.

@@ -1,5 +1,6 @@
 #include "platform/window/FlexGrid.h"
 
+#include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -107,6 +108,39 @@ private slots:
         QCOMPARE(selected(), QString("4-4"));
         QTest::mouseRelease(m_grid->viewport(), Qt::LeftButton, {}, place(4, 0));
         QCOMPARE(selected(), QString("4-4"));
+    }
+
+    void columnsTakeTheRoomOfTheirTextsUntilOneIsDragged()
+    {
+        const QString name = "MARIA APARECIDA DAS GRAÇAS";
+        const auto fill = [&] {
+            m_grid->inOneStep([&] {
+                m_grid->Clear();
+                m_grid->setFormatString("<Cod   |<Nome               |>Valor|^Obs");
+                m_grid->setRows(1);
+                m_grid->setRows(40);
+                m_grid->setTextMatrix(33, 1, name);
+            });
+        };
+        const auto width = [this](int col) { return m_grid->columnWidth(col); };
+        const auto room = [this](const QString &text) { return m_grid->fontMetrics().horizontalAdvance(text); };
+        m_grid->resize(600, 200);
+        fill();
+        QVERIFY(width(1) > room(name));
+        QCOMPARE(m_grid->horizontalHeader()->length(), m_grid->viewport()->width());
+        m_grid->setTextMatrix(2, 2, "1.000.000,00 E MAIS");
+        QVERIFY(width(2) > room("1.000.000,00 E MAIS"));
+        QWidget *headings = m_grid->horizontalHeader()->viewport();
+        const QPoint edge(width(0) + width(1) - 1, 5);
+        QTest::mousePress(headings, Qt::LeftButton, {}, edge);
+        QTest::mouseMove(headings, edge - QPoint(90, 0));
+        QTest::mouseRelease(headings, Qt::LeftButton, {}, edge - QPoint(90, 0));
+        const int dragged = width(1);
+        QVERIFY(dragged < room(name));
+        fill();
+        m_grid->setCols(5);
+        QCOMPARE(width(1), dragged);
+        QCOMPARE(m_grid->horizontalHeader()->length(), m_grid->viewport()->width());
     }
 
 private:
