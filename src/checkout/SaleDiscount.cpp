@@ -52,7 +52,9 @@ void SaleDiscount::Listar_Motivos_Descontos()
     for (; rs && !rs->Eof(); rs->MoveNext())
         OnErrorResumeNext([&] { ui.txtmotivo->addItem(rs->Fields("Codigo").text()); },
                           [&] {
-                              if (rs->Fields("Motivo_Desconto").text().toUpper() == standard)
+                              const QString motive = rs->Fields("Motivo_Desconto").text();
+                              ui.txtmotivo->setNote(ui.txtmotivo->count() - 1, motive);
+                              if (motive.toUpper() == standard)
                                   m_defaultMotive = ui.txtmotivo->count() - 1;
                           });
     Fechar_Recordset(rs);

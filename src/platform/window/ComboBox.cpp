@@ -6,7 +6,31 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
+
+namespace {
+constexpr int entryPadding = 8;
+
+/// Shows what an entry says to those who hear it: its text, and more where there is more to tell.
+class EntryDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (const QString whole = index.data(Qt::AccessibleTextRole).toString(); !whole.isEmpty())
+            option->text = whole;
+    }
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, entryPadding);
+    }
+};
+} // namespace
 
 ComboBox::ComboBox(QWidget *parent) : QComboBox(parent)
 {
@@ -28,9 +52,17 @@ void ComboBox::setEditable(bool editable)
     }
 }
 
+void ComboBox::setNote(int index, const QString &note)
+{
+    if (!dynamic_cast<EntryDelegate *>(view()->itemDelegate()))
+        view()->setItemDelegate(new EntryDelegate(this));
+    setItemData(index, itemText(index) + "  " + note, Qt::AccessibleTextRole);
+}
+
 void ComboBox::showPopup()
 {
     view()->installEventFilter(this);
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
     QComboBox::showPopup();
 }
 

@@ -12,6 +12,8 @@ public:
     explicit ComboBox(QWidget *parent = nullptr);
 
     void setEditable(bool editable);
+    /// Shows a note beside an entry while the list is open.
+    void setNote(int index, const QString &note);
     void showPopup() override;
 
     QString Text() const;

@@ -68,6 +68,18 @@ private slots:
         QCOMPARE(m_combo->currentText(), "AGUA");
     }
 
+    void comboShowsNotesInItsListAlone()
+    {
+        m_combo->setNote(1, "DOCE");
+        m_combo->setCurrentIndex(1);
+        const int width = m_combo->view()->sizeHintForColumn(0);
+        m_combo->setNote(1, "DOCE DE FRUTAS CRISTALIZADAS");
+        QVERIFY(m_combo->view()->sizeHintForColumn(0) > width);
+        QCOMPARE(m_combo->currentText() + m_combo->Text(), QString("BALABALA"));
+        m_combo->showPopup();
+        QVERIFY(m_combo->view()->viewport()->width() >= m_combo->view()->sizeHintForColumn(0));
+    }
+
 private:
     std::unique_ptr<QWidget> m_window;
     TextBox *m_box = nullptr;
