@@ -88,23 +88,20 @@ public:
         }
     }
 
-    QString openFile(const FileDialog &dialog) override
-    {
-        return ask(dialog, QFileDialog::AcceptOpen, QFileDialog::ExistingFile);
-    }
+    QString openFile(const FileDialog &dialog) override { return ask(dialog, QFileDialog::AcceptOpen); }
 
-    QString saveFile(const FileDialog &dialog) override
-    {
-        return ask(dialog, QFileDialog::AcceptSave, QFileDialog::AnyFile);
-    }
+    QString saveFile(const FileDialog &dialog) override { return ask(dialog, QFileDialog::AcceptSave); }
 
 private:
-    static QString ask(const FileDialog &wanted, QFileDialog::AcceptMode accept, QFileDialog::FileMode file)
+    static QString ask(const FileDialog &wanted, QFileDialog::AcceptMode accept)
     {
         QFileDialog dialog(owner(), wanted.DialogTitle, resolveIgnoringCase(wanted.InitDir));
         joinBand(dialog);
         dialog.setAcceptMode(accept);
-        dialog.setFileMode(file);
+        // Whether there is such a file is for the window to say. A desktop's own dialog would refuse the name by
+        // itself, and lie below a window that stays on top.
+        dialog.setFileMode(QFileDialog::AnyFile);
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
         dialog.setOption(QFileDialog::DontConfirmOverwrite);
         dialog.setNameFilters(nameFilters(wanted.Filter));
         if (!wanted.FileName.isEmpty())

@@ -35,7 +35,8 @@ struct FileDialog
     /// Such as ".txt": what a file to be saved gets when its name has no extension.
     QString DefaultExt;
 
-    /// Sets FileName to the chosen file, or to the empty text when there is none.
+    /// Sets FileName to the chosen file, or to the empty text when there is none. A name that was typed may be no
+    /// file's.
     void ShowOpen();
     /// The same. Whether a file may be overwritten is for the caller to ask.
     void ShowSave();

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -72,6 +73,15 @@ private slots:
         });
         dialog.ShowOpen();
         QCOMPARE(dialog.FileName, photo.fileName());
+        // What is typed need not be there: whoever asked says so in words of its own.
+        whenOpen<QFileDialog>([](QFileDialog &shown) {
+            auto *name = shown.findChild<QLineEdit *>("fileNameEdit");
+            QTest::keyClicks(name, "nada.jpg");
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        dialog.FileName.clear();
+        dialog.ShowOpen();
+        QCOMPARE(dialog.FileName, folder.filePath("fotos/nada.jpg"));
     }
 };
 
