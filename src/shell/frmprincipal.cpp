@@ -37,6 +37,7 @@ constexpr int barStep = 10;
 constexpr auto barInterval = std::chrono::milliseconds(100);
 constexpr int archiveAttribute = 32;
 constexpr QSize folderPictureSize(20, 20);
+constexpr QSize programPictureSize(56, 56);
 
 QString languageLong()
 {
@@ -66,6 +67,7 @@ frmprincipal::frmprincipal() : ui(std::make_unique<Ui::frmprincipal>())
 {
     ui->setupUi(this);
     ui->cmdbuscabd->setIcon(bundledPicture("pasta", folderPictureSize));
+    ui->Image1->setPixmap(bundledPicture("programa", programPictureSize));
     const RefusalTexts longTexts{languageLong(), badPath + " " + adviceOnRights, noFile + " " + adviceOnRights};
     const RefusalTexts shortTexts{noLanguage, badPath, noFile};
     m_doors = {{ui->cmdclientes, [] { Forms::use<frmcadastro_clientes>().Show(); }, longTexts},
@@ -135,7 +137,7 @@ void frmprincipal::stopLoading()
 {
     temp.stop();
     ui->barra->setValue(fullBar);
-    // The bar at rest stays full, and would claim that it still loads.
+    // At rest the full bar would claim that it still loads.
     ui->barra->setTextVisible(false);
 }
 
@@ -185,8 +187,9 @@ void frmprincipal::enter(const Door &door)
     const QString permission = Ler_INI(caminhoConfig(), "Modulo Externo", "Ativo");
     if (permission.isEmpty() || permission == "0")
         return notice(blocked);
-    const QString path = ui->txtbasedados->text();
-    if (!path.isEmpty()) {
+    // Read anew at each step: while the texts are loaded events run, and somebody may type.
+    const auto path = [this] { return ui->txtbasedados->text(); };
+    if (!path().isEmpty()) {
         readLanguageName();
         if (NomeIdioma.isEmpty()) {
             MsgBox(door.texts.language, vbInformation);
@@ -197,12 +200,12 @@ void frmprincipal::enter(const Door &door)
             CaminhoAlterado = false;
         }
     }
-    if (path.isEmpty())
+    if (path().isEmpty())
         return notice(door.texts.path);
-    if (!Existe_Arquivo(path) || Dir(path, archiveAttribute).toUpper() != QString("Morvelane.mdb").toUpper())
+    if (!Existe_Arquivo(path()) || Dir(path(), archiveAttribute).toUpper() != QString("Morvelane.mdb").toUpper())
         return notice(door.texts.file);
 
-    CaminhoBD = path;
+    CaminhoBD = path();
     Gravar_INI(ArquivoConfigIni, "Configuracoes", "BD", CaminhoBD);
     setMousePointer(vbHourglass);
     door.show();

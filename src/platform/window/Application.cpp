@@ -9,6 +9,7 @@
 #include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QPrinterInfo>
 #include <QTranslator>
@@ -47,6 +48,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     // The program ends with its main window, whichever windows are open then.
     setQuitOnLastWindowClosed(false);
     applyLook(*this);
+    setWindowIcon(QIcon(":/pictures/programa.svg"));
     LongWork::setSign(showBusySign);
     Patience::renew();
 

@@ -23,6 +23,7 @@ constexpr qreal radius = 5;
 constexpr qreal listRadius = 3;
 constexpr qreal cardRadius = 8;
 constexpr int memoMargin = 5;
+constexpr int slimBar = 6;
 constexpr int cardMargin = 15;
 constexpr int titleDrop = 5;
 constexpr int stateStripe = 4;
@@ -124,17 +125,27 @@ void drawIndicator(QPainter *painter, const QStyleOption *option, bool round)
     painter->restore();
 }
 
+/// A bar without a text is a slim line.
+QRect barRect(const QStyleOptionProgressBar &bar)
+{
+    QRect rect = bar.rect;
+    if (!bar.textVisible)
+        rect.setHeight(slimBar);
+    rect.moveCenter(bar.rect.center());
+    return rect;
+}
+
 void drawProgress(QPainter *painter, const QStyleOptionProgressBar &bar)
 {
     const qreal share = qreal(bar.progress - bar.minimum) / std::max(bar.maximum - bar.minimum, 1);
-    QRect filled = bar.rect;
-    filled.setWidth(qRound(bar.rect.width() * std::clamp(share, 0.0, 1.0)));
+    const QRect whole = barRect(bar);
+    QRect filled = whole;
+    filled.setWidth(qRound(whole.width() * std::clamp(share, 0.0, 1.0)));
     if (bar.invertedAppearance)
-        filled.moveRight(bar.rect.right());
-    // Where it has arrived, it rests.
-    const QColor accent = bar.palette.color(share < 1 ? QPalette::Highlight : QPalette::Mid);
+        filled.moveRight(whole.right());
+    const QColor accent = bar.palette.color(QPalette::Highlight);
     if (!filled.isEmpty())
-        drawBox(painter, filled, radius, accent, accent);
+        drawBox(painter, filled, std::min(radius, filled.height() / 2.0), accent, accent);
 }
 
 /// A sign of a message box: a filled disc with a letter.
@@ -413,13 +424,19 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption *option, 
         painter->drawLine(option->rect.topRight() + QPoint(0, 5), option->rect.bottomRight() - QPoint(0, 5));
         return;
     }
-    if (element == CE_ProgressBarGroove) {
-        drawBox(painter, option->rect, radius, option->palette.color(QPalette::Base),
-                option->palette.color(QPalette::Mid));
+    const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+    if (element == CE_ShapedFrame && frame && frame->frameShape == QFrame::HLine) {
+        painter->fillRect(QRect(option->rect.left(), option->rect.center().y(), option->rect.width(), 1),
+                          option->palette.color(QPalette::Mid));
         return;
     }
-    if (const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(option);
-        bar && element == CE_ProgressBarContents) {
+    const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(option);
+    if (bar && element == CE_ProgressBarGroove) {
+        drawBox(painter, barRect(*bar), bar->textVisible ? radius : slimBar / 2.0,
+                option->palette.color(QPalette::Base), option->palette.color(QPalette::Mid));
+        return;
+    }
+    if (bar && element == CE_ProgressBarContents) {
         drawProgress(painter, *bar);
         return;
     }
