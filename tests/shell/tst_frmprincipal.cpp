@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 const QString noLanguage = "Idioma não econtrado no caminho especificado! Execute o Administrador antes de rodar o "
@@ -138,6 +139,11 @@ private slots:
             QVERIFY(shell.enters());
             QCOMPARE((QStringList{CaminhoBD, SimboloMoeda, shell.pointer()}), row + QStringList{row[0]});
         }
+        // Typed while the texts are loaded: what stands in the box in the end is opened.
+        replaceText(shell.at("txtbasedados"), other.dataFile());
+        QTimer::singleShot(0, [&] { replaceText(shell.at("txtbasedados"), shell.cafe.dataFile()); });
+        QVERIFY(shell.enters());
+        QCOMPARE(shell.pointer(), shell.cafe.dataFile());
     }
 };
 
