@@ -6,48 +6,51 @@
 #include <QFontMetricsF>
 #include <QScopedValueRollback>
 #include <QTableView>
+#include <QtMath>
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace {
-constexpr int cellMargin = 6;
+constexpr int textMargin = 6;
 /// A remark may be a paragraph; a name is never longer than this many digits.
 constexpr int mostDigits = 50;
 
-/// Widths of texts, summed up from their letters: a list has some hundred thousand texts, and shaping each would take
-/// longer than reading it.
+/// Widths of texts in parts of a pixel, summed up from their letters: a list has some hundred thousand texts, and
+/// shaping each would take longer than reading it.
 class TextWidths
 {
 public:
+    static constexpr int parts = 64;
+
     explicit TextWidths(const QFont &font) : m_metrics(font)
     {
         for (char16_t letter = 0; letter < m_letters.size(); ++letter)
-            m_letters[letter] = m_metrics.horizontalAdvance(QChar(letter));
+            m_letters[letter] = measured(QChar(letter));
         m_widest = *std::max_element(m_letters.begin(), m_letters.end());
     }
 
     /// The wider of a width and that of a text.
-    qreal wider(qreal width, const QString &text) const
+    int wider(int width, const QString &text) const
     {
         // Few texts of a list are longer than its longest so far.
-        return qreal(text.size()) * m_widest <= width ? width : std::max(width, of(text));
+        return text.size() * m_widest <= width ? width : std::max(width, of(text));
     }
 
 private:
-    qreal of(const QString &text) const
+    int measured(QChar letter) const { return qCeil(m_metrics.horizontalAdvance(letter) * parts); }
+
+    int of(const QString &text) const
     {
-        qreal sum = 0;
+        int sum = 0;
         for (const QChar letter : text)
-            sum +=
-                letter.unicode() < m_letters.size() ? m_letters[letter.unicode()] : m_metrics.horizontalAdvance(letter);
+            sum += letter.unicode() < m_letters.size() ? m_letters[letter.unicode()] : measured(letter);
         return sum;
     }
 
     QFontMetricsF m_metrics;
-    std::array<qreal, 256> m_letters{};
-    qreal m_widest = 0;
+    std::array<int, 256> m_letters{};
+    int m_widest = 0;
 };
 } // namespace
 
@@ -62,12 +65,12 @@ FlexGridColumns::FlexGridColumns(QTableView *grid, const FlexGridModel *model)
 void FlexGridColumns::measure()
 {
     const TextWidths widths(m_grid->font());
-    QList<qreal> widest(m_model->Cols());
+    QList<int> widest(m_model->Cols());
     for (int row = 1; row < m_model->Rows(); ++row)
         for (int col = 0; col < m_model->Cols(); ++col)
             widest[col] = widths.wider(widest[col], m_model->text(row, col));
     for (int col = 0; col < m_model->Cols(); ++col)
-        at(col).texts = int(std::ceil(widest[col]));
+        at(col).texts = widest[col] / TextWidths::parts + 1;
     arrange();
 }
 
@@ -123,7 +126,7 @@ FlexGridColumns::Need FlexGridColumns::need(int col)
     // A pixel more, as letters side by side may be wider than their sum by less than one.
     const int texts = std::min(column.texts + 1, most);
     const int least = std::max(metrics.horizontalAdvance(heading.trimmed()) + picture, texts);
-    return {least + 2 * cellMargin, std::max(metrics.horizontalAdvance(heading) + picture - least, 0)};
+    return {least + 2 * textMargin, std::max(metrics.horizontalAdvance(heading) + picture - least, 0)};
 }
 
 void FlexGridColumns::dragged(int col, int width)
