@@ -3,14 +3,27 @@
 #include <QString>
 
 #include <functional>
+#include <vector>
+
+/// How a figure came out over all of its pairs.
+struct Quartiles
+{
+    double lower = 0;
+    double median = 0;
+    double upper = 0;
+};
+
+Quartiles quartilesOf(std::vector<double> values);
 
 /// Seconds that a piece of work takes.
 double secondsOf(const std::function<void()> &work);
 
-/// The two sides of one figure, run in turn; the ratio of their medians, so that a noisy machine troubles both alike.
-double ratioOfMedians(int rounds, const std::function<double()> &ours, const std::function<double()> &reference);
+/// Both sides of a figure in turn, pair by pair, so that a noisy machine troubles both alike; the ratio of each pair.
+Quartiles ratiosOfPairs(const std::function<double()> &ours, const std::function<double()> &reference);
+/// An amount without a reference, taken again and again.
+Quartiles repeated(const std::function<double()> &amount);
 
-/// Prints the table, a line a figure with its limit and whether it passes, and counts both kinds at the end.
+/// Prints the table, a line a figure with its quartiles, its limit and the verdict, and counts the verdicts at the end.
 class FigureTable
 {
 public:
@@ -18,12 +31,16 @@ public:
     ~FigureTable();
     Q_DISABLE_COPY_MOVE(FigureTable)
 
-    void add(const QString &name, double value, double limit);
-    bool allWithinLimits() const { return m_failed == 0; }
+    /// A ratio: one that is far below 1 fails too, because then the reference is not the fastest way.
+    void add(const QString &name, const Quartiles &ratio, double limit);
+    void addAmount(const QString &name, const Quartiles &amount, double limit);
+    /// 0 when all figures pass, 1 when one fails, 3 when none fails but one is too noisy to tell.
+    int exitCode() const;
 
 private:
-    static void printRow(const QString &name, const QString &value, const QString &limit, const QString &verdict);
+    void judge(const QString &name, const Quartiles &value, double limit, double least);
 
     int m_passed = 0;
     int m_failed = 0;
+    int m_noisy = 0;
 };

@@ -1,6 +1,7 @@
 #include "bench/ProductFigures.h"
 
 #include "bench/BareFile.h"
+#include "bench/BareList.h"
 #include "bench/Figures.h"
 #include "bench/Program.h"
 #include "bench/WorkingCopy.h"
@@ -49,31 +50,34 @@ void enlarge(const QString &cafe)
         "FROM Next; COMMIT");
 }
 
-double ratioOfLoading(BareFile &file)
+Quartiles ratioOfLoading(BareFile &file)
 {
-    return ratioOfMedians(
-        9,
+    BareStatement products(file, "SELECT * FROM Produtos ORDER BY \"Descrição\"");
+    BareList list({0, 3, 12, 8, 10, 4, 5, 6, 7, 11, 9});
+    return ratiosOfPairs(
         [] {
             const double seconds = secondsOf([] { Forms::use<frmcadastro_produtos>(); });
             Forms::use<frmcadastro_produtos>().Unload();
             QCoreApplication::processEvents();
             return seconds;
         },
-        [&] { return secondsOf([&] { file.read("SELECT * FROM Produtos ORDER BY \"Descrição\""); }); });
+        [&] { return secondsOf([&] { list.load(products); }); });
 }
 
 /// Moves one product to another category and back, so that both sides move the same rows.
-double ratioOfEdit(BareFile &file)
+Quartiles ratioOfEdit(BareFile &file)
 {
     auto &window = Forms::use<frmcadastro_produtos>();
     window.Show();
     QCoreApplication::processEvents();
     auto &grid = control<FlexGrid>(window, "tab_produtos");
     const std::vector<std::string> product = file.read("SELECT \"Descrição\",Categoria FROM Produtos WHERE Codigo=2");
-    const std::string &category = product[1];
     const int row = grid.findPrefix(QString::fromStdString(product[0]), 1, {ProductColumn::Description});
-    return ratioOfMedians(
-        9,
+    BareStatement edit(file, "UPDATE Produtos SET Categoria=? WHERE Codigo=2");
+    std::vector<BareStatement> sales;
+    for (const std::string table : {"Venda_Produtos", "Venda_ProdutosOti"})
+        sales.emplace_back(file, "UPDATE " + table + " SET Categoria=? WHERE \"Descrição\"=?");
+    return ratiosOfPairs(
         [&] {
             grid.goToRow(row, ProductColumn::Description);
             click(window, "cmdeditar");
@@ -82,10 +86,9 @@ double ratioOfEdit(BareFile &file)
         },
         [&] {
             return secondsOf([&] {
-                file.write("UPDATE Produtos SET Categoria='" + category + "' WHERE Codigo=2");
-                for (const std::string table : {"Venda_Produtos", "Venda_ProdutosOti"})
-                    file.write("UPDATE " + table + " SET Categoria='" + category + "' WHERE \"Descrição\"='" +
-                               product[0] + "'");
+                edit.with(product[1]).run();
+                for (BareStatement &statement : sales)
+                    statement.with(product[1], product[0]).run();
             });
         });
 }
@@ -146,20 +149,18 @@ void paintBare(const QList<QList<PlacedText>> &pages, const QString &file)
     }
 }
 
-double ratioOfPrinting()
+Quartiles ratioOfPrinting()
 {
     FakeMachine machine;
     FlexGrid &grid = control<FlexGrid>(Forms::use<frmcadastro_produtos>(), "tab_produtos");
     grid.setRows(1 + printedProducts);
     const QTemporaryDir folder;
-    const QList<QList<PlacedText>> pages = pagesOf(grid);
-    return ratioOfMedians(
-        5,
+    return ratiosOfPairs(
         [&] {
             return secondsOf(
                 [&] { imprimirProdutos(Forms::use<frmcadastro_produtos>(), grid, printedProducts, "5000 produtos"); });
         },
-        [&] { return secondsOf([&] { paintBare(pages, folder.filePath("bare.pdf")); }); });
+        [&] { return secondsOf([&] { paintBare(pagesOf(grid), folder.filePath("bare.pdf")); }); });
 }
 } // namespace
 
@@ -169,7 +170,7 @@ void addProductFigures(FigureTable &table, const QString &cafe)
     enlarge(copy.folder());
     const Program program(copy.folder());
     BareFile file(dataFileOf(copy.folder()));
-    table.add("loading 32,767 products", ratioOfLoading(file), 2.5);
-    table.add("another category for a product with 1,000,000 sales", ratioOfEdit(file), 1.2);
-    table.add("printing 5,000 products", ratioOfPrinting(), 1.5);
+    table.add("loading 32,767 products", ratioOfLoading(file), 1.5);
+    table.add("another category for a product with 1,000,000 sales", ratioOfEdit(file), 1.1);
+    table.add("printing 5,000 products", ratioOfPrinting(), 1.2);
 }
