@@ -48,6 +48,9 @@ public:
     {
         const std::string name = nextName();
         const std::string code = nextCode();
+        // The window looked at these when it opened.
+        m_link.with(name).run();
+        m_rules.run();
         return secondsOf([&] {
             const long long period = m_lastPeriod.number();
             m_isOpen.with(period).run();
@@ -70,6 +73,7 @@ private:
     BareStatement m_link{m_file, "SELECT Codigo FROM Links WHERE Nome=?"};
     BareStatement m_isAutomatic{m_file, "SELECT LiberarAuto FROM Descontos WHERE Codigo=1"};
     BareStatement m_rule{m_file, "SELECT * FROM Descontos WHERE Codigo=1"};
+    BareStatement m_rules{m_file, "SELECT * FROM Descontos ORDER BY Codigo"};
     BareStatement m_codeIsTaken{m_file, "SELECT Codigo_Acesso FROM Codigo_Acesso WHERE Codigo_Acesso=?"};
     BareStatement m_code{
         m_file, "INSERT INTO Codigo_Acesso (Codigo_Acesso,Status,Valor_Disponivel,Tipo_Codigo,URL,Data_Criacao) VALUES "

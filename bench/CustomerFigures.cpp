@@ -164,10 +164,7 @@ Quartiles ratioOfRename(Desk &desk, BareFile &file)
 class BareDeletion
 {
 public:
-    explicit BareDeletion(BareFile &file) : m_file(file)
-    {
-        m_file.write("CREATE TEMP TABLE listed (name)");
-    }
+    explicit BareDeletion(BareFile &file) : m_file(withTable(file)) {}
 
     double secondsOfDeletion(const std::vector<std::string> &names)
     {
@@ -183,6 +180,12 @@ public:
     }
 
 private:
+    static BareFile &withTable(BareFile &file)
+    {
+        file.write("CREATE TEMP TABLE listed (name)");
+        return file;
+    }
+
     BareFile &m_file;
     BareStatement m_customers{m_file, "DELETE FROM Clientes WHERE Codigo BETWEEN 1 AND " + std::to_string(deletedRows)};
     BareStatement m_listed{m_file, "INSERT INTO listed VALUES (?)"};

@@ -93,61 +93,70 @@ Quartiles ratioOfEdit(BareFile &file)
         });
 }
 
-struct PlacedText
+/// What stands on the printed pages, each text where a painter is told to put it.
+class BarePages
 {
-    int column;
-    int line;
-    QString text;
+public:
+    explicit BarePages(const QString &file) : m_printer(QPrinter::HighResolution)
+    {
+        m_printer.setOutputFormat(QPrinter::PdfFormat);
+        m_printer.setOutputFileName(file);
+        m_printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}));
+        m_printer.setFullPage(true);
+        QFont font;
+        font.setFamilies({"Courier New", "Liberation Mono"});
+        font.setHintingPreference(QFont::PreferNoHinting);
+        font.setPixelSize(200);
+        m_ascent = QFontMetricsF(font).ascent();
+        m_painter.begin(&m_printer);
+        const double scale = m_printer.resolution() / 1440.0;
+        m_painter.scale(scale, scale);
+        m_painter.setFont(font);
+    }
+
+    void print(const FlexGrid &grid)
+    {
+        for (int row = 1; row < grid.Rows(); ++row) {
+            const auto column = [&](int col, int width = 0) { return grid.TextMatrix(row, col).leftJustified(width); };
+            const int line = 1 + (row - 1) % productsOnPage * 5;
+            if (line == 1)
+                printHead((row - 1) / productsOnPage + 1);
+            draw(0, line, m_name + column(1, 32) + m_code + column(3) + m_stock + column(5, 13) + m_least + column(6));
+            draw(0, line + 1, m_price + column(7, 26) + m_supplier + column(8));
+            draw(0, line + 2, m_barcode + column(10, 31) + m_category + column(2));
+            draw(0, line + 4, m_rule);
+        }
+    }
+
+private:
+    void printHead(int page)
+    {
+        if (page > 1)
+            m_printer.newPage();
+        draw(0, 0, m_heading);
+        draw(88, 0, "Pág." + QString::number(page));
+        draw(0, 1, m_rule);
+    }
+    void draw(int column, int line, const QString &text)
+    {
+        m_painter.drawText(QPointF(column * 120, line * 240 + m_ascent), text);
+    }
+    static QString label(const QString &number) { return productTexts.text("DispositivoSaida" + number); }
+
+    QPrinter m_printer;
+    QPainter m_painter;
+    double m_ascent = 0;
+    const QString m_rule = QString(95, '*');
+    const QString m_heading = label("1") + "15/03/2024 às 14:30:05";
+    const QString m_name = label("4");
+    const QString m_code = label("4_2");
+    const QString m_stock = label("5");
+    const QString m_least = label("6");
+    const QString m_price = label("7");
+    const QString m_supplier = label("8") + SimboloMoeda + " ";
+    const QString m_barcode = label("9");
+    const QString m_category = label("10");
 };
-
-/// What stands on the printed pages.
-QList<QList<PlacedText>> pagesOf(const FlexGrid &grid)
-{
-    const auto text = [](const char *key) { return productTexts.text(key); };
-    const QString rule(95, '*');
-    QList<QList<PlacedText>> pages;
-    for (int row = 1; row < grid.Rows(); ++row) {
-        const auto column = [&](int col, int width = 0) { return grid.TextMatrix(row, col).leftJustified(width); };
-        const int line = 1 + (row - 1) % productsOnPage * 5;
-        if (line == 1)
-            pages.append({{0, 0, text("DispositivoSaida1") + "15/03/2024 às 14:30:05"},
-                          {88, 0, "Pág." + QString::number(pages.size() + 1)},
-                          {0, 1, rule}});
-        pages.last() +=
-            {{0, line,
-              text("DispositivoSaida4") + column(1, 32) + text("DispositivoSaida4_2") + column(3) +
-                  text("DispositivoSaida5") + column(5, 13) + text("DispositivoSaida6") + column(6)},
-             {0, line + 1,
-              text("DispositivoSaida7") + column(7, 26) + text("DispositivoSaida8") + SimboloMoeda + " " + column(8)},
-             {0, line + 2, text("DispositivoSaida9") + column(10, 31) + text("DispositivoSaida10") + column(2)},
-             {0, line + 4, rule}};
-    }
-    return pages;
-}
-
-void paintBare(const QList<QList<PlacedText>> &pages, const QString &file)
-{
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(file);
-    printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}));
-    printer.setFullPage(true);
-    QFont font;
-    font.setFamilies({"Courier New", "Liberation Mono"});
-    font.setHintingPreference(QFont::PreferNoHinting);
-    font.setPixelSize(200);
-    QPainter painter(&printer);
-    const double scale = printer.resolution() / 1440.0;
-    painter.scale(scale, scale);
-    painter.setFont(font);
-    const double ascent = QFontMetricsF(font).ascent();
-    for (const QList<PlacedText> &page : pages) {
-        if (&page != &pages.first())
-            printer.newPage();
-        for (const PlacedText &each : page)
-            painter.drawText(QPointF(each.column * 120, each.line * 240 + ascent), each.text);
-    }
-}
 
 Quartiles ratioOfPrinting()
 {
@@ -160,7 +169,7 @@ Quartiles ratioOfPrinting()
             return secondsOf(
                 [&] { imprimirProdutos(Forms::use<frmcadastro_produtos>(), grid, printedProducts, "5000 produtos"); });
         },
-        [&] { return secondsOf([&] { paintBare(pagesOf(grid), folder.filePath("bare.pdf")); }); });
+        [&] { return secondsOf([&] { BarePages(folder.filePath("bare.pdf")).print(grid); }); });
 }
 } // namespace
 
