@@ -36,16 +36,20 @@ BareList::BareList(const std::vector<int> &fields) : m_fields(fields), m_texts(s
     m_view.verticalHeader()->hide();
     m_view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_view.setModel(&m_texts);
-    m_view.show();
 }
 
 bool BareList::goTo(const QString &beginning, int firstColumn, int lastColumn)
 {
+    // Most texts are told from the wanted one by their first letter.
+    const QChar first = beginning.front().toUpper();
     for (int row = 0; row < m_texts.rowCount(); ++row)
-        for (int column = firstColumn; column <= lastColumn; ++column)
-            if (m_texts.text(row, column).startsWith(beginning, Qt::CaseInsensitive)) {
+        for (int column = firstColumn; column <= lastColumn; ++column) {
+            const QString &text = m_texts.text(row, column);
+            if (!text.isEmpty() && (text.front() == first || text.front().toUpper() == first) &&
+                text.startsWith(beginning, Qt::CaseInsensitive)) {
                 m_view.setCurrentIndex(m_texts.index(row, column));
                 return true;
             }
+        }
     return false;
 }

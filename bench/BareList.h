@@ -27,13 +27,14 @@ private:
     std::vector<QString> m_texts;
 };
 
-/// The reference for the windows' lists: a table view on the screen that shows what a statement yields.
+/// The reference for the windows' lists: a table view that shows what a statement yields.
 class BareList
 {
 public:
     /// The statement's columns that are shown.
     explicit BareList(const std::vector<int> &fields);
 
+    void show() { m_view.show(); }
     void load(BareStatement &statement) { m_texts.load(statement, m_fields); }
     /// Goes to the first row in which one of the columns begins with the text, in any case; false when none does.
     bool goTo(const QString &beginning, int firstColumn, int lastColumn);

@@ -97,6 +97,7 @@ Quartiles ratioOfSort(Desk &desk, BareFile &file)
 {
     BareStatement customers(file, bareList + "Nome");
     BareList list(bareFields);
+    list.show();
     return ratiosOfPairs([&] { return desk.secondsOfSort(CustomerColumn::Name); },
                          [&] { return secondsOf([&] { list.load(customers); }); });
 }
@@ -105,6 +106,7 @@ Quartiles ratioOfSearch(Desk &desk, BareFile &file)
 {
     BareStatement customers(file, bareList + "Nome");
     BareList list(bareFields);
+    list.show();
     list.load(customers);
     desk.secondsOfSort(CustomerColumn::Name);
     const FlexGrid &grid = desk.grid();

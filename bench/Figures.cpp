@@ -1,6 +1,7 @@
 #include "bench/Figures.h"
 
 #include <QElapsedTimer>
+#include <QStringList>
 #include <QTextStream>
 
 #include <algorithm>

@@ -146,6 +146,7 @@ Quartiles ratioOfList(Counter &counter, BareFile &file)
 {
     BareStatement customers(file, "SELECT * FROM Clientes ORDER BY Nome");
     BareList list({0, 1, 16});
+    list.show();
     return ratiosOfPairs([&] { return secondsOf([&] { counter.window().Listar_Clientes(); }); },
                          [&] { return secondsOf([&] { list.load(customers); }); });
 }
