@@ -45,6 +45,29 @@ void RowStore::append(const std::vector<FieldValue> &row)
     m_rows.push_back(start);
 }
 
+void RowStore::sortBy(std::size_t column, bool descending)
+{
+    struct Key
+    {
+        bool filled;
+        std::string_view bytes;
+        const char *row;
+    };
+    std::vector<Key> keys;
+    keys.reserve(count());
+    std::vector<FieldValue> values;
+    for (std::size_t row = 0; row < count(); ++row) {
+        read(row, values);
+        keys.push_back({!values[column].isNull(), values[column].utf8(), m_rows[row]});
+    }
+    std::stable_sort(keys.begin(), keys.end(), [descending](const Key &left, const Key &right) {
+        const Key &first = descending ? right : left;
+        const Key &second = descending ? left : right;
+        return first.filled != second.filled ? second.filled : first.bytes < second.bytes;
+    });
+    std::transform(keys.begin(), keys.end(), m_rows.begin(), [](const Key &key) { return key.row; });
+}
+
 void RowStore::read(std::size_t row, std::vector<FieldValue> &values) const
 {
     values.resize(m_columns);

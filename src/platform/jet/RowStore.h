@@ -17,6 +17,8 @@ public:
 
     /// Copies one row; it has a value for each column.
     void append(const std::vector<FieldValue> &row);
+    /// Puts the rows in the order of a column's bytes, Null before all; equal ones stay as they are.
+    void sortBy(std::size_t column, bool descending);
     std::size_t count() const { return m_rows.size(); }
     /// Values of one row; they point into the store.
     void read(std::size_t row, std::vector<FieldValue> &values) const;

@@ -32,6 +32,7 @@ bool isEquality(const Expression &comparison)
 class Renderer
 {
 public:
+    void selectWithKeys(const SelectStatement &statement);
     void select(const SelectStatement &statement);
     void insert(const InsertStatement &statement);
     void update(const UpdateStatement &statement);
@@ -40,6 +41,8 @@ public:
     RenderedStatement take() { return std::move(m_result); }
 
 private:
+    void columns(const SelectStatement &statement);
+    void source(const SelectStatement &statement);
     /// The value as it is stored and calculated with; true is -1.
     void value(const Expression &expression);
     /// A value whose order counts.
@@ -51,7 +54,7 @@ private:
     void call(const Expression &expression);
     void arithmetic(const Expression &expression);
     void comparison(const Expression &expression);
-    void list(const Expression &expression);
+    void membership(const Expression &expression);
     void chain(std::span<const Expression> terms, const char *joint);
     void assigned(const Assignment &assignment);
     void where(const std::optional<Expression> &condition);
@@ -60,25 +63,44 @@ private:
     RenderedStatement m_result;
 };
 
+void Renderer::selectWithKeys(const SelectStatement &statement)
+{
+    columns(statement);
+    for (const OrderTerm &term : statement.order) {
+        add(", ");
+        orderedValue(term.value);
+    }
+    source(statement);
+}
+
 void Renderer::select(const SelectStatement &statement)
 {
-    add("SELECT ");
-    const char *separator = "";
-    for (const Expression &column : statement.columns) {
-        add(separator);
-        value(column);
-        separator = ", ";
-    }
-    add(" FROM ");
-    add(quotedName(statement.table));
-    where(statement.where);
-    separator = " ORDER BY ";
+    columns(statement);
+    source(statement);
+    const char *separator = " ORDER BY ";
     for (const OrderTerm &term : statement.order) {
         add(separator);
         orderedValue(term.value);
         add(term.descending ? " DESC" : "");
         separator = ", ";
     }
+}
+
+void Renderer::columns(const SelectStatement &statement)
+{
+    const char *separator = "SELECT ";
+    for (const Expression &column : statement.columns) {
+        add(separator);
+        value(column);
+        separator = ", ";
+    }
+}
+
+void Renderer::source(const SelectStatement &statement)
+{
+    add(" FROM ");
+    add(quotedName(statement.table));
+    where(statement.where);
 }
 
 void Renderer::insert(const InsertStatement &statement)
@@ -256,7 +278,7 @@ void Renderer::truth(const Expression &expression)
         add(" IS NULL)");
         return;
     case ExpressionKind::InList:
-        list(expression);
+        membership(expression);
         return;
     case ExpressionKind::InSelect:
         add("(");
@@ -295,7 +317,7 @@ void Renderer::comparison(const Expression &expression)
     add(")");
 }
 
-void Renderer::list(const Expression &expression)
+void Renderer::membership(const Expression &expression)
 {
     add("(");
     comparedValue(expression.operands[0], expression.operands[1]);
@@ -342,6 +364,13 @@ RenderedStatement renderSelect(const SelectStatement &select)
 {
     Renderer renderer;
     renderer.select(select);
+    return renderer.take();
+}
+
+RenderedStatement renderWithKeys(const SelectStatement &select)
+{
+    Renderer renderer;
+    renderer.selectWithKeys(select);
     return renderer.take();
 }
 

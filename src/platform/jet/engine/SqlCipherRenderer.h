@@ -26,4 +26,6 @@ constexpr const char *clear = "DELETE FROM temp.listed";
 std::string quotedName(const QString &name);
 
 RenderedStatement renderSelect(const SelectStatement &select);
+/// In no order; the values that decide on the order stand behind the columns.
+RenderedStatement renderWithKeys(const SelectStatement &select);
 RenderedStatement renderStatement(const Statement &statement);

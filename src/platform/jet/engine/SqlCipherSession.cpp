@@ -4,6 +4,7 @@
 #include "platform/jet/engine/SqlCipherBackup.h"
 #include "platform/jet/engine/SqlCipherSchema.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -31,8 +32,8 @@ void bind(sqlite3_stmt *statement, int position, const Expression &literal)
 class RowReader
 {
 public:
-    explicit RowReader(const std::vector<Expression> &columns)
-        : m_columns(columns), m_digits(columns.size()), m_row(columns.size())
+    explicit RowReader(const SelectStatement &select, std::size_t columns)
+        : m_columns(select.columns), m_digits(columns), m_row(columns)
     {
     }
 
@@ -51,7 +52,7 @@ private:
         case SQLITE_NULL:
             return {};
         case SQLITE_INTEGER:
-            if (m_columns[i].type == ValueType::Boolean)
+            if (i < m_columns.size() && m_columns[i].type == ValueType::Boolean)
                 return {FieldValue::Kind::Boolean, sqlite3_column_int64(statement, column) != 0 ? "-1" : "0"};
             return number(i, sqlite3_column_int64(statement, column));
         case SQLITE_FLOAT:
@@ -77,6 +78,12 @@ private:
     std::vector<FieldValue> m_row;
 };
 
+bool isOrderOfTexts(const std::vector<OrderTerm> &order)
+{
+    return !order.empty() &&
+           std::all_of(order.begin(), order.end(), [](const OrderTerm &term) { return term.value.isText(); });
+}
+
 } // namespace
 
 Catalogue SqlCipherSession::readCatalogue()
@@ -86,13 +93,19 @@ Catalogue SqlCipherSession::readCatalogue()
 
 RowStore SqlCipherSession::query(const SelectStatement &select)
 {
-    const RenderedStatement rendered = renderSelect(select);
+    // The engine would carry whole rows through its sort, which takes longer than to put them in order as they lie
+    // here.
+    const bool sorted = isOrderOfTexts(select.order);
+    const RenderedStatement rendered = sorted ? renderWithKeys(select) : renderSelect(select);
     fillLongLists(rendered);
     const SqlCipherRun run(prepared(rendered));
-    RowStore rows(select.columns.size());
-    RowReader reader(select.columns);
+    const std::size_t columns = select.columns.size() + (sorted ? select.order.size() : 0);
+    RowStore rows(columns);
+    RowReader reader(select, columns);
     while (m_connection.step(run))
         rows.append(reader.read(run));
+    for (std::size_t term = sorted ? select.order.size() : 0; term-- > 0;)
+        rows.sortBy(select.columns.size() + term, select.order[term].descending);
     return rows;
 }
 
