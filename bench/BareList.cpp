@@ -4,9 +4,11 @@
 
 #include <QHeaderView>
 
+#include <algorithm>
+
 int BareTexts::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_texts.size()) / m_columns;
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 int BareTexts::columnCount(const QModelIndex &parent) const
@@ -19,15 +21,23 @@ QVariant BareTexts::data(const QModelIndex &index, int role) const
     return role == Qt::DisplayRole ? text(index.row(), index.column()) : QVariant();
 }
 
-void BareTexts::load(BareStatement &statement, const std::vector<int> &fields)
+void BareTexts::load(BareStatement &statement, const std::vector<int> &fields, int sortedBy)
 {
     beginResetModel();
     m_texts.clear();
-    while (statement.next())
+    m_rows.clear();
+    while (statement.next()) {
+        m_rows.append(static_cast<int>(m_texts.size()));
         for (const int field : fields) {
             const std::string_view text = statement.text(field);
             m_texts.push_back(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
         }
+    }
+    if (sortedBy >= 0)
+        std::stable_sort(m_rows.begin(), m_rows.end(), [this, sortedBy](int left, int right) {
+            return m_texts[static_cast<std::size_t>(left + sortedBy)] <
+                   m_texts[static_cast<std::size_t>(right + sortedBy)];
+        });
     endResetModel();
 }
 

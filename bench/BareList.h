@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QList>
 #include <QTableView>
 
 #include <vector>
@@ -17,17 +18,18 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
-    const QString &text(int row, int column) const { return m_texts[place(row, column)]; }
-    void load(BareStatement &statement, const std::vector<int> &fields);
+    const QString &text(int row, int column) const { return m_texts[static_cast<std::size_t>(m_rows[row] + column)]; }
+    void load(BareStatement &statement, const std::vector<int> &fields, int sortedBy);
 
 private:
-    std::size_t place(int row, int column) const { return static_cast<std::size_t>(row * m_columns + column); }
-
     int m_columns;
     std::vector<QString> m_texts;
+    /// Where each row begins.
+    QList<int> m_rows;
 };
 
-/// The reference for the windows' lists: a table view that shows what a statement yields.
+/// The reference for the windows' lists: a table view that shows what a statement yields. The rows are put in order
+/// here, as the engine would carry all columns through its sort, or look up each row of an index.
 class BareList
 {
 public:
@@ -35,7 +37,8 @@ public:
     explicit BareList(const std::vector<int> &fields);
 
     void show() { m_view.show(); }
-    void load(BareStatement &statement) { m_texts.load(statement, m_fields); }
+    /// The column that the rows are sorted by; -1 leaves them as they come.
+    void load(BareStatement &statement, int sortedBy) { m_texts.load(statement, m_fields, sortedBy); }
     /// Goes to the first row in which one of the columns begins with the text, in any case; false when none does.
     bool goTo(const QString &beginning, int firstColumn, int lastColumn);
 

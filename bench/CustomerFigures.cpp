@@ -24,9 +24,9 @@ const char *const deletedFrom[] = {"Clientes", "Codigo_Acesso", "Links"};
 const char *const followingTables[] = {"Lista_espera", "Log", "Clientes_Bloqueados", "Monitor_Impressao"};
 const char *const nickedIn[] = {"Lista_espera",      "Log",           "Clientes_Bloqueados",
                                 "Monitor_Impressao", "Venda_Codigos", "Venda_Produtos"};
-const char *const renamedIn[] = {"Links",         "Lista_espera", "Log", "Clientes_Bloqueados", "Monitor_Impressao",
+const char *const renamedIn[] = {"Links",         "Lista_espera",  "Log", "Clientes_Bloqueados", "Monitor_Impressao",
                                  "Venda_Codigos", "Venda_Produtos"};
-const std::string bareList = "SELECT Codigo,Nome,Nick,Grupo,Data_Nasc,Obs,Autorizado FROM Clientes ORDER BY ";
+const std::string bareList = "SELECT Codigo,Nome,Nick,Grupo,Data_Nasc,Obs,Autorizado FROM Clientes";
 const std::vector<int> bareFields{0, 1, 2, 3, 4, 5, 6};
 
 /// Gives a café as many sold codes as it has sales, and links for all.
@@ -95,19 +95,19 @@ private:
 
 Quartiles ratioOfSort(Desk &desk, BareFile &file)
 {
-    BareStatement customers(file, bareList + "Nome");
+    BareStatement customers(file, bareList);
     BareList list(bareFields);
     list.show();
     return ratiosOfPairs([&] { return desk.secondsOfSort(CustomerColumn::Name); },
-                         [&] { return secondsOf([&] { list.load(customers); }); });
+                         [&] { return secondsOf([&] { list.load(customers, CustomerColumn::Name); }); });
 }
 
 Quartiles ratioOfSearch(Desk &desk, BareFile &file)
 {
-    BareStatement customers(file, bareList + "Nome");
+    BareStatement customers(file, bareList);
     BareList list(bareFields);
     list.show();
-    list.load(customers);
+    list.load(customers, CustomerColumn::Name);
     desk.secondsOfSort(CustomerColumn::Name);
     const FlexGrid &grid = desk.grid();
     const QString last = grid.TextMatrix(grid.Rows() - 1, CustomerColumn::Name);
@@ -177,7 +177,7 @@ public:
             m_codes.run();
             m_links.run();
             m_file.write("DELETE FROM listed");
-            m_list.load(m_left);
+            m_list.load(m_left, -1);
         });
     }
 
@@ -194,7 +194,7 @@ private:
     BareStatement m_codes{m_file, "DELETE FROM Codigo_Acesso WHERE Codigo_Acesso IN (SELECT Codigo_Acesso FROM Links "
                                   "WHERE Nome IN (SELECT name FROM listed))"};
     BareStatement m_links{m_file, "DELETE FROM Links WHERE Nome IN (SELECT name FROM listed)"};
-    BareStatement m_left{m_file, bareList + "Codigo"};
+    BareStatement m_left{m_file, bareList + " ORDER BY Codigo"};
     BareList m_list{bareFields};
 };
 

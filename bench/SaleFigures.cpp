@@ -6,6 +6,7 @@
 #include "bench/Program.h"
 #include "cafe/Cafe.h"
 #include "configuration/Globais.h"
+#include "customers/CustomerColumns.h"
 #include "data/Acesso_BD.h"
 #include "platform/window/Forms.h"
 #include "sale/ProductRules.h"
@@ -91,11 +92,10 @@ private:
     BareStatement m_lastSale{m_file, "SELECT Max(Codigo) FROM Venda_Produtos"};
     BareStatement m_category{m_file, "SELECT Categoria FROM Produtos WHERE \"Descrição\"=?"};
     BareStatement m_line{
-        m_file,
-        "INSERT INTO Venda_Produtos (Codigo,Data,Hora,\"Descrição\",Quantidade,Nome,Nick,Avulsa,Debito,"
-        "Valor_Total,Desconto,Motivo_Desconto,Data_Pag,Hora_Pag,Id_Caixa,Id_Caixa_Pago,Categoria) VALUES "
-        "(?,'15/03/2024','14:30:05',?,'1','------','------',-1,0,'2,50','0,00','-----------',"
-        "'15/03/2024','14:30:05',?,?,'BEBIDAS')"};
+        m_file, "INSERT INTO Venda_Produtos (Codigo,Data,Hora,\"Descrição\",Quantidade,Nome,Nick,Avulsa,Debito,"
+                "Valor_Total,Desconto,Motivo_Desconto,Data_Pag,Hora_Pag,Id_Caixa,Id_Caixa_Pago,Categoria) VALUES "
+                "(?,'15/03/2024','14:30:05',?,'1','------','------',-1,0,'2,50','0,00','-----------',"
+                "'15/03/2024','14:30:05',?,?,'BEBIDAS')"};
     BareStatement m_lowerStock{m_file, "UPDATE Produtos SET Quantidade=CAST(Cdbl(Quantidade)-1 AS INTEGER) WHERE "
                                        "\"Descrição\"=? AND Servico=0"};
     BareStatement m_stock{m_file, "SELECT * FROM Produtos WHERE \"Descrição\"=? AND Servico=0"};
@@ -144,11 +144,11 @@ Quartiles ratioOfDiscountQueries(const QString &cafe)
 
 Quartiles ratioOfList(Counter &counter, BareFile &file)
 {
-    BareStatement customers(file, "SELECT * FROM Clientes ORDER BY Nome");
+    BareStatement customers(file, "SELECT * FROM Clientes");
     BareList list({0, 1, 16});
     list.show();
     return ratiosOfPairs([&] { return secondsOf([&] { counter.window().Listar_Clientes(); }); },
-                         [&] { return secondsOf([&] { list.load(customers); }); });
+                         [&] { return secondsOf([&] { list.load(customers, CustomerColumn::Name); }); });
 }
 
 /// The same window sells on both cafés in turn.
