@@ -78,6 +78,7 @@ private slots:
         for (const char *row : {"5,'a'", "5,'b'", "2,'c'", "5,'d'", "Null,'e'", "Null,'f'"})
             file.db->Execute("Insert into Vendas (Codigo,Nome) values (" + QString(row) + ")");
         QCOMPARE(file.answer("Select Codigo,Nome From Vendas Order By Nome"), "5|a 6|b 2|c 7|d ~|e ~|f");
+        QCOMPARE(file.answer("Select Codigo,Nome From Vendas Order By Nome Desc"), "~|f ~|e 7|d 2|c 6|b 5|a");
         file.db->Execute("Insert into Produtos (Codigo) values (1)");
         QCOMPARE(errorOf([&] { file.db->Execute("Insert into Produtos (Codigo) values (1)"); }),
                  ErrorNumber::DuplicateKey);
