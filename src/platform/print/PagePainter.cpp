@@ -22,8 +22,14 @@ void paintPage(const RecordedPage &page, QPainter &painter)
         }
         painter.drawText(each.place + QPointF(0, ascent), each.text);
     }
+    // In one stroke: filled one by one, each box would set pen and brush anew.
+    QList<QRectF> boxes;
+    boxes.reserve(page.boxes.size());
     for (const RecordedBox &each : page.boxes)
-        painter.fillRect(each.box, Qt::black);
+        boxes.append(each.box);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawRects(boxes);
 }
 
 } // namespace
