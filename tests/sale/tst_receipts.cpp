@@ -38,6 +38,7 @@ private slots:
         SaleCounter counter;
         counter.cafe.setIni("Recibo Produtos", "Imprimir", "1");
         counter.cafe.setIni("Recibo", "Via", "2");
+        counter.change("Produtos", "Quantidade='100'");
         counter.open();
         const auto sell = [&](const QByteArray &countersBefore) {
             counter.cafe.writeFile("inf.rcb", "[Recibo]\n" + countersBefore);
