@@ -8,6 +8,7 @@
 
 class FlexGridColumns;
 class FlexGridModel;
+class QInputEvent;
 
 /// The flexible grid: texts in rows and columns, row 0 being the headings.
 ///
