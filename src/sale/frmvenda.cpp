@@ -43,9 +43,9 @@ frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
     opensReceiptOptions(ui->lblconfigurar_recibo, ui->chkrecibo);
     connect(ui->cmdfinalizar, &QPushButton::clicked, this, [this] { m_confirmation->cmdfinalizar_Click(); });
     connect(ui->cmdcadastro_clientes, &QPushButton::clicked, this,
-            [this] { visit<frmcadastro_clientes>([this] { Listar_Clientes(); }); });
+            [this] { visit<frmcadastro_clientes>(&frmvenda::Listar_Clientes); });
     connect(ui->cmdcadastro_produtos, &QPushButton::clicked, this,
-            [this] { visit<frmcadastro_produtos>([this] { Listar_Produtos(); }); });
+            [this] { visit<frmcadastro_produtos>(&frmvenda::Listar_Produtos); });
     connect(ui->cmdcancelar, &QPushButton::clicked, this, [this] {
         if (!m_discount->Bloqueio_Desconto)
             Unload();
@@ -190,13 +190,13 @@ void frmvenda::showChange()
 }
 
 template <typename Window>
-void frmvenda::visit(const std::function<void()> &refill)
+void frmvenda::visit(void (frmvenda::*refill)())
 {
     DoEvents();
     showAndWait(Forms::use<Window>());
     // This window may have gone with the program while it waited.
     if (!isLoaded())
         return;
-    refill();
+    (this->*refill)();
     DoEvents();
 }

@@ -3,7 +3,6 @@
 #include "platform/window/Form.h"
 #include "sale/SaleState.h"
 
-#include <functional>
 #include <memory>
 
 class SaleCart;
@@ -46,7 +45,7 @@ private:
     void selectFilledAmount();
     /// Waits until a window of the registrations is closed and takes over what is new there.
     template <typename Window>
-    void visit(const std::function<void()> &refill);
+    void visit(void (frmvenda::*refill)());
 
     std::unique_ptr<Ui::frmvenda> ui;
     SaleState m_state;
