@@ -10,7 +10,8 @@ template <typename Named>
 const Named *find(const QList<Named> &all, const QString &name)
 {
     const auto found = std::find_if(all.begin(), all.end(), [&name](const Named &candidate) {
-        return candidate.Name.compare(name, Qt::CaseInsensitive) == 0;
+        // Case changes no length, and every field of a statement is looked up.
+        return candidate.Name.size() == name.size() && candidate.Name.compare(name, Qt::CaseInsensitive) == 0;
     });
     return found == all.end() ? nullptr : &*found;
 }

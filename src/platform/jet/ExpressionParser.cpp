@@ -44,6 +44,7 @@ Expression joined(ExpressionKind kind, Operator op, Expression left, Expression 
 {
     Expression result(kind);
     result.op = op;
+    result.operands.reserve(2);
     result.operands.push_back(std::move(left));
     result.operands.push_back(std::move(right));
     return result;
@@ -229,7 +230,7 @@ Expression ExpressionParser::value()
     const Token token = m_tokens.current();
     if (token.kind == TokenKind::Text) {
         m_tokens.advance();
-        return Expression::ofText(token.text);
+        return Expression::ofText(token.literal());
     }
     if (token.kind == TokenKind::Number) {
         m_tokens.advance();
@@ -280,7 +281,7 @@ QString ExpressionParser::name()
     if (!isName)
         refuse();
     m_tokens.advance();
-    return token.text;
+    return token.text.toString();
 }
 
 bool ExpressionParser::takeWord(QStringView word)

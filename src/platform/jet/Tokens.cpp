@@ -53,7 +53,7 @@ void Tokens::readName()
     const qsizetype start = m_position;
     while (m_position < m_sql.size() && continuesName(m_sql[m_position]))
         ++m_position;
-    m_current = {TokenKind::Name, m_sql.mid(start, m_position - start).toString()};
+    m_current = {TokenKind::Name, m_sql.mid(start, m_position - start)};
 }
 
 void Tokens::readQuotedName()
@@ -61,7 +61,7 @@ void Tokens::readQuotedName()
     const qsizetype end = m_sql.indexOf(u']', m_position);
     if (end <= m_position + 1)
         throw RunTimeError(ErrorNumber::BadSql, "A bracketed name is empty or has no end.");
-    m_current = {TokenKind::QuotedName, m_sql.mid(m_position + 1, end - m_position - 1).toString()};
+    m_current = {TokenKind::QuotedName, m_sql.mid(m_position + 1, end - m_position - 1)};
     m_position = end + 1;
 }
 
@@ -86,39 +86,28 @@ void Tokens::readNumber()
             skipDigits();
         }
     }
-    m_current = {TokenKind::Number, m_sql.mid(start, m_position - start).toString()};
+    m_current = {TokenKind::Number, m_sql.mid(start, m_position - start)};
 }
 
 void Tokens::readText()
 {
-    QString text;
-    qsizetype start = m_position + 1;
-    for (;;) {
-        const qsizetype quote = m_sql.indexOf(u'\'', start);
-        if (quote < 0)
-            throw RunTimeError(ErrorNumber::BadSql, "A text has no closing apostrophe.");
-        text += m_sql.mid(start, quote - start);
-        m_position = quote + 1;
-        if (m_position == m_sql.size() || m_sql[m_position] != u'\'')
-            break;
-        text += u'\'';
-        start = m_position + 1;
-    }
-    m_current = {TokenKind::Text, text};
+    const qsizetype start = m_position + 1;
+    qsizetype end = m_sql.indexOf(u'\'', start);
+    while (end >= 0 && m_sql.mid(end + 1).startsWith(u'\''))
+        end = m_sql.indexOf(u'\'', end + 2);
+    if (end < 0)
+        throw RunTimeError(ErrorNumber::BadSql, "A text has no closing apostrophe.");
+    m_current = {TokenKind::Text, m_sql.mid(start, end - start)};
+    m_position = end + 1;
 }
 
 void Tokens::readSymbol()
 {
-    for (const QStringView pair : {u"<>", u"<=", u">="}) {
-        if (m_sql.mid(m_position).startsWith(pair)) {
-            m_current = {TokenKind::Symbol, pair.toString()};
-            m_position += 2;
-            return;
-        }
-    }
     const QChar symbol = m_sql[m_position];
+    const QChar next = m_position + 1 < m_sql.size() ? m_sql[m_position + 1] : QChar();
+    const bool isPair = (symbol == u'<' && (next == u'>' || next == u'=')) || (symbol == u'>' && next == u'=');
     if (!QStringView(u"(),;*=<>+-/").contains(symbol))
         throw RunTimeError(ErrorNumber::BadSql, QString("\"%1\" stands where no statement can hold it.").arg(symbol));
-    m_current = {TokenKind::Symbol, QString(symbol)};
-    ++m_position;
+    m_current = {TokenKind::Symbol, m_sql.mid(m_position, isPair ? 2 : 1)};
+    m_position += m_current.text.size();
 }

@@ -355,9 +355,11 @@ void Renderer::chain(std::span<const Expression> terms, const char *joint)
 
 std::string quotedName(const QString &name)
 {
-    QString doubled = name;
-    doubled.replace('"', "\"\"");
-    return '"' + doubled.toStdString() + '"';
+    const QByteArray utf8 = name.toUtf8();
+    std::string quoted = "\"";
+    for (const char character : utf8)
+        quoted.append(character == '"' ? 2 : 1, character);
+    return quoted += '"';
 }
 
 RenderedStatement renderSelect(const SelectStatement &select)
