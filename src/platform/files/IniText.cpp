@@ -5,7 +5,6 @@
 
 #include <QtEndian>
 
-#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -59,11 +58,6 @@ bool beginsLine(QByteArrayView before)
     while (!before.isEmpty() && blanks.contains(before.back()))
         before.chop(1);
     return before.isEmpty() || before.endsWith('\n');
-}
-
-bool isAscii(QByteArrayView bytes)
-{
-    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
 /// Each text is looked at for itself: a program of Windows may have added its lines to a UTF-8 file of ours.

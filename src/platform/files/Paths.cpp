@@ -2,6 +2,7 @@
 
 #include "platform/base/Err.h"
 #include "platform/files/SafeFile.h"
+#include "platform/text/Utf8.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,6 +21,15 @@ QString withSlashes(QString path)
     return path;
 }
 
+/// Whether an entry bears that name in any case. To decode every entry would take longer than to read the folder.
+bool bearsName(const char *entry, const QString &name)
+{
+    const QLatin1StringView plain(entry);
+    if (isAscii(plain))
+        return plain.size() == name.size() && name.compare(plain, Qt::CaseInsensitive) == 0;
+    return QFile::decodeName(entry).compare(name, Qt::CaseInsensitive) == 0;
+}
+
 /// The folder's entry of that name in any case; the name as given when there is none.
 QString entryIgnoringCase(const QString &folder, const QString &name)
 {
@@ -27,9 +37,11 @@ QString entryIgnoringCase(const QString &folder, const QString &name)
     const std::unique_ptr<DIR, int (*)(DIR *)> entries(opendir(QFile::encodeName(folder + u'.')), closedir);
     QString found;
     while (const dirent *entry = entries ? readdir(entries.get()) : nullptr) {
-        const QString candidate = QFile::decodeName(entry->d_name);
+        if (!bearsName(entry->d_name, name))
+            continue;
         // A folder lists its entries in no order; the first by name makes the same choice every time.
-        if (candidate.compare(name, Qt::CaseInsensitive) == 0 && (found.isEmpty() || candidate < found))
+        const QString candidate = QFile::decodeName(entry->d_name);
+        if (found.isEmpty() || candidate < found)
             found = candidate;
     }
     return found.isEmpty() ? name : found;

@@ -2,6 +2,7 @@
 
 #include "platform/base/Err.h"
 #include "platform/text/RegionalSettings.h"
+#include "platform/text/Utf8.h"
 
 #include <QStringDecoder>
 #include <QVarLengthArray>
@@ -252,11 +253,6 @@ std::optional<double> regionalNumber(std::basic_string_view<Char> text)
 std::u16string_view utf16View(QStringView text)
 {
     return {text.utf16(), static_cast<std::size_t>(text.size())};
-}
-
-bool isAscii(std::string_view text)
-{
-    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 } // namespace
 
