@@ -11,6 +11,7 @@
 #include "data/FirstRow.h"
 #include "data/Funcoes.h"
 #include "platform/base/Machine.h"
+#include "platform/files/IniProfile.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Form.h"
@@ -116,14 +117,19 @@ bool CodeSale::discountIsFair()
 
 bool CodeSale::confirmsSale() const
 {
-    const bool reduced = m_discount.Total_Final != m_discount.Total_Venda;
-    QString question = codeTexts.text("MsgBox13") + withSymbol(m_discount.Total_Venda);
-    if (reduced)
-        question += codeTexts.text("MsgBox13_3") + withSymbol(m_discount.Total_Final);
-    question += codeTexts.text("MsgBox13_4") + "\n" + m_state.Nome_Cliente.toUpper() + " ? ";
+    QString question;
+    QString title;
+    {
+        // The texts mostly stand in the same files; the question itself waits for an answer.
+        const IniBurst burst;
+        question = codeTexts.text("MsgBox13") + withSymbol(m_discount.Total_Venda);
+        if (m_discount.Total_Final != m_discount.Total_Venda)
+            question += codeTexts.text("MsgBox13_3") + withSymbol(m_discount.Total_Final);
+        question += codeTexts.text("MsgBox13_4") + "\n" + m_state.Nome_Cliente.toUpper() + " ? ";
+        title = codeTexts.text("MsgBox1_2");
+    }
     m_form.setMousePointer(vbDefault);
-    const int answer = MsgBox(question, vbYesNo + vbInformation, codeTexts.text("MsgBox1_2"));
-    return answer == vbYes;
+    return MsgBox(question, vbYesNo + vbInformation, title) == vbYes;
 }
 
 void CodeSale::storeSale()

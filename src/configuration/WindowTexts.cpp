@@ -1,7 +1,23 @@
 #include "configuration/WindowTexts.h"
 
 #include "configuration/Idiomas.h"
+#include "platform/files/IniProfile.h"
 #include "platform/window/Prompts.h"
+
+namespace {
+struct Message
+{
+    QString text;
+    QString title;
+};
+
+/// Both mostly stand in the same files. The burst ends before the message is shown, as that waits for an answer.
+Message messageOf(const WindowTexts &texts, const QString &key, const QString &titleKey)
+{
+    const IniBurst burst;
+    return {texts.text(key), texts.text(titleKey)};
+}
+} // namespace
 
 QString WindowTexts::text(const QString &key) const
 {
@@ -15,12 +31,13 @@ QString WindowTexts::loaded(const QString &key) const
 
 void WindowTexts::notice(const QString &key) const
 {
-    noticeText(text(key));
+    notice(key, m_usualTitle);
 }
 
 void WindowTexts::notice(const QString &key, const QString &titleKey) const
 {
-    MsgBox(text(key), vbInformation, text(titleKey));
+    const Message shown = messageOf(*this, key, titleKey);
+    MsgBox(shown.text, vbInformation, shown.title);
 }
 
 void WindowTexts::noticeText(const QString &text) const
@@ -30,5 +47,6 @@ void WindowTexts::noticeText(const QString &text) const
 
 bool WindowTexts::confirms(const QString &key, const QString &titleKey, int icon) const
 {
-    return MsgBox(text(key), vbYesNo + icon, text(titleKey)) == vbYes;
+    const Message shown = messageOf(*this, key, titleKey);
+    return MsgBox(shown.text, vbYesNo + icon, shown.title) == vbYes;
 }
