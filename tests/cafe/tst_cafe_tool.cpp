@@ -1,5 +1,5 @@
 #include "platform/files/IniProfile.h"
-#include "platform/jet/engine/SqlCipherConnection.h"
+#include "tests/support/EngineSql.h"
 
 #include <QDir>
 #include <QProcess>
@@ -50,82 +50,57 @@ class tst_cafe_tool : public QObject
 private slots:
     void init() { m_place = std::make_unique<QTemporaryDir>(); }
 
-    void demoReadsRightInItsRegion_data()
-    {
-        QTest::addColumn<QString>("locale");
-        QTest::addColumn<QString>("price");
-        QTest::addColumn<QString>("absolute");
-        QTest::addColumn<QString>("date");
-        const auto row = [](const char *locale, const char *price, const char *absolute, const char *date) {
-            QTest::newRow(locale) << locale << price << absolute << date;
-        };
-        row("pt_BR.UTF-8", "2,80", "8,5", "^\\d\\d/\\d\\d/\\d{4}$");
-        row("en_US.UTF-8", "2.80", "8.5", "^\\d\\d?/\\d\\d?/\\d{4}$");
-    }
-
     void demoReadsRightInItsRegion()
     {
-        QFETCH(QString, locale);
-        const Answer made = tool({"create", at("cafe"), "--demo", "--sales", "40", "--oti"}, locale);
-        QCOMPARE(made.code, 0);
-        QCOMPARE(made.err, QString());
-        QCOMPARE(entries(m_place->path()), QStringList("cafe"));
+        for (const auto &[locale, price, absolute, date] :
+             {std::tuple("pt_BR.UTF-8", "2,80", "8,5", "^\\d\\d/\\d\\d/\\d{4}$"),
+              {"en_US.UTF-8", "2.80", "8.5", "^\\d\\d?/\\d\\d?/\\d{4}$"}}) {
+            init();
+            const Answer made = tool({"create", at("cafe"), "--demo", "--sales", "40", "--oti"}, locale);
+            QCOMPARE(made.code, 0);
+            QCOMPARE(made.err, QString());
+            QCOMPARE(entries(m_place->path()), QStringList("cafe"));
 
-        // The first row, behind the line that names the fields.
-        const auto ask = [&](const QString &sql) {
-            return tool({"query", at("cafe"), sql}, locale).out.section('\n', 1, 1);
-        };
-        QTEST(ask("Select Valor_Unitario From Produtos Where Descrição='ÁGUA MINERAL COM GÁS 500ML'"), "price");
-        QTEST(ask("Select Absoluto From Descontos Where Codigo=4"), "absolute");
-        // Every amount reads as a number in the region that it was made for.
-        QCOMPARE(ask("Select Count(*) From Produtos Where Cdbl(Valor_Unitario)>0"), QString("151"));
-        QCOMPARE(ask("Select Count(*) From Venda_Produtos Where Cdbl(Valor_Total)>0"), QString("40"));
-        QFETCH(QString, date);
-        QVERIFY(QRegularExpression(date).match(ask("Select Data From Venda_Produtos")).hasMatch());
-        QCOMPARE(tool({"check", at("cafe")}, locale).code, 0);
+            // The first row, behind the line that names the fields.
+            const auto ask = [&](const QString &sql) {
+                return tool({"query", at("cafe"), sql}, locale).out.section('\n', 1, 1);
+            };
+            QCOMPARE(ask("Select Valor_Unitario From Produtos Where Descrição='ÁGUA MINERAL COM GÁS 500ML'"), price);
+            QCOMPARE(ask("Select Absoluto From Descontos Where Codigo=4"), absolute);
+            // Every amount reads as a number in the region that it was made for.
+            QCOMPARE(ask("Select Count(*) From Produtos Where Cdbl(Valor_Unitario)>0"), QString("151"));
+            QCOMPARE(ask("Select Count(*) From Venda_Produtos Where Cdbl(Valor_Total)>0"), QString("40"));
+            QVERIFY(QRegularExpression(date).match(ask("Select Data From Venda_Produtos")).hasMatch());
+            QCOMPARE(tool({"check", at("cafe")}, locale).code, 0);
 
-        QCOMPARE(GetPrivateProfileString("SQL", "servidor", {}, 500, at("cafe/config.ini")), at("cafe/Morvelane.mdb"));
-    }
-
-    void refuses_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("word");
-        const auto row = [](const char *name, int code, const QString &word, const QStringList &arguments) {
-            QTest::newRow(name) << arguments << code << word;
-        };
-        row("negative count", 2, "\"-1\"", {"create", "@new", "--demo", "--sales=-1"});
-        row("more customers than names", 1, "at most", {"create", "@new", "--demo", "--customers", "2000000"});
-        row("folder in use", 1, "not empty", {"create", "@cafe"});
-        row("writing query", 2, "read", {"query", "@cafe", "Delete From Clientes"});
-        row("two statements", 1, "", {"query", "@cafe", "Select * From Clientes; Delete From Clientes"});
-        row("check of nothing", 1, "no such folder", {"check", "@new"});
-        row("pointer to nothing", 1, "no café", {"point", "@"});
-        row("backup over the live file", 1, "exists", {"backup", "@cafe", "@cafe/MORVELANE.mdb"});
+            QCOMPARE(GetPrivateProfileString("SQL", "servidor", {}, 500, at("cafe/config.ini")),
+                     at("cafe/Morvelane.mdb"));
+        }
     }
 
     void refuses()
     {
-        // One café serves all rows, because none of them may change it.
-        static const QTemporaryDir place;
-        const auto at = [](const QString &name) { return place.filePath(name); };
-        if (!QFileInfo::exists(at("cafe")))
-            QCOMPARE(tool({"create", at("cafe")}).code, 0);
+        QCOMPARE(tool({"create", at("cafe")}).code, 0);
         const QByteArray dataFile = read(at("cafe/Morvelane.mdb"));
-        QFETCH(QStringList, arguments);
-        for (QString &argument : arguments) {
-            if (argument.startsWith('@'))
-                argument = at(argument.mid(1));
-        }
-        const Answer answer = tool(arguments);
-        QTEST(answer.code, "code");
-        QFETCH(QString, word);
-        QVERIFY2(answer.err.contains(word), qPrintable(answer.err));
-        QCOMPARE(answer.err.count('\n'), 1);
-        QCOMPARE(answer.out, QString());
-        QCOMPARE(entries(place.path()), QStringList("cafe"));
-        QCOMPARE(read(at("cafe/Morvelane.mdb")), dataFile);
+        const auto check = [&](int code, const QString &word, QStringList arguments) {
+            for (QString &argument : arguments)
+                if (argument.startsWith('@'))
+                    argument = at(argument.mid(1));
+            const Answer answer = tool(arguments);
+            const QString shown = arguments.join(' ') + ": " + answer.err;
+            QVERIFY2(answer.code == code && answer.err.contains(word), qPrintable(shown));
+            QVERIFY2(answer.err.count('\n') == 1 && answer.out.isEmpty(), qPrintable(shown));
+            QCOMPARE(entries(m_place->path()), QStringList("cafe"));
+            QVERIFY2(read(at("cafe/Morvelane.mdb")) == dataFile, qPrintable(shown));
+        };
+        check(2, "\"-1\"", {"create", "@new", "--demo", "--sales=-1"});
+        check(1, "at most", {"create", "@new", "--demo", "--customers", "2000000"});
+        check(1, "not empty", {"create", "@cafe"});
+        check(2, "read", {"query", "@cafe", "Delete From Clientes"});
+        check(1, "", {"query", "@cafe", "Select * From Clientes; Delete From Clientes"});
+        check(1, "no such folder", {"check", "@new"});
+        check(1, "no café", {"point", "@"});
+        check(1, "exists", {"backup", "@cafe", "@cafe/MORVELANE.mdb"});
     }
 
     void pointsTheTerminalAtTheCafe()
@@ -164,12 +139,9 @@ private slots:
         QVERIFY(QFile::setPermissions(at("cafe"), QFile::Permissions(0x7775)));
         QVERIFY(QFile::setPermissions(at("cafe/config.ini"), QFile::Permissions(0x6664)));
         QVERIFY(mkfifo(at("cafe/inf.rcb").toUtf8().constData(), 0600) == 0);
-        {
-            const auto access = FileAccess{at("cafe/Morvelane.mdb"), "qzt3172"};
-            SqlCipherConnection connection(access);
-            connection.run("CREATE TRIGGER extra AFTER INSERT ON Clientes BEGIN DELETE FROM Links; END");
-            connection.run("CREATE VIEW \"a\x1b[31m\" AS SELECT 1");
-        }
+        runEngineSql(at("cafe/Morvelane.mdb"), "qzt3172",
+                     "CREATE TRIGGER extra AFTER INSERT ON Clientes BEGIN DELETE FROM Links; END;"
+                     "CREATE VIEW \"a\x1b[31m\" AS SELECT 1");
         const Answer answer = tool({"check", at("cafe")});
         for (const char *word : {"Fotos: is missing", "Caixa.wav: is missing", "config.ini: strangers",
                                  "inf.rcb: cannot", "trigger extra is not", "view a\\x1b[31m is not"})
