@@ -8,6 +8,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <array>
+#include <tuple>
+
 namespace {
 QString pointerIn(const QString &folder)
 {
@@ -20,49 +23,41 @@ class tst_pointerfile : public QObject
     Q_OBJECT
 
 private slots:
-    /// Ages of the pointers in days; a place with a negative one has none.
-    void leadsToOneFolder_data()
+    void leadsToOneFolder()
     {
-        QTest::addColumn<int>("program");
-        QTest::addColumn<int>("user");
-        QTest::addColumn<int>("everyone");
-        QTest::addColumn<QString>("folder");
-        QTest::addColumn<QString>("pointer");
-        QTest::newRow("carried copy") << 9 << 1 << 0 << "program"
-                                      << "program";
-        QTest::newRow("new computer") << -1 << -1 << -1 << "user"
-                                      << "";
-        QTest::newRow("first start of a user") << -1 << -1 << 5 << "user"
-                                               << "everyone";
-        QTest::newRow("the user chose later") << -1 << 1 << 5 << "user"
-                                              << "user";
-        QTest::newRow("the owner chose later") << -1 << 5 << 1 << "user"
-                                               << "everyone";
+        // Ages of the pointers in days, beside the program, of the user and of everyone; a place with a negative one
+        // has none. Then the folder and the pointer that hold.
+        const std::tuple<const char *, std::array<int, 3>, QString, QString> cases[] = {
+            {"carried copy", {9, 1, 0}, "program", "program"},
+            {"new computer", {-1, -1, -1}, "user", ""},
+            {"first start of a user", {-1, -1, 5}, "user", "everyone"},
+            {"the user chose later", {-1, 1, 5}, "user", "user"},
+            {"the owner chose later", {-1, 5, 1}, "user", "everyone"}};
+        for (const auto &[situation, ages, folder, pointer] : cases)
+            check(situation, ages, folder, pointer);
     }
 
-    void leadsToOneFolder()
+private:
+    static void check(const char *situation, const std::array<int, 3> &ages, const QString &folder,
+                      const QString &pointer)
     {
         const QTemporaryDir computer;
         const auto place = [&](const QString &name, int age) {
             QString path = computer.filePath(name);
             if (age >= 0 && QDir().mkpath(path)) {
                 // Names may come from a system to which their case means nothing.
-                QFile pointer(path + "/CONFIGINI.TXT");
-                WritePrivateProfileString("Configuracoes", "BD", name, pointer.fileName());
-                pointer.open(QIODevice::ReadWrite);
-                pointer.setFileTime(QDateTime::currentDateTime().addDays(-age), QFileDevice::FileModificationTime);
+                QFile file(path + "/CONFIGINI.TXT");
+                WritePrivateProfileString("Configuracoes", "BD", name, file.fileName());
+                file.open(QIODevice::ReadWrite);
+                file.setFileTime(QDateTime::currentDateTime().addDays(-age), QFileDevice::FileModificationTime);
             }
             return path;
         };
-        QFETCH(int, program);
-        QFETCH(int, user);
-        QFETCH(int, everyone);
-        const PointerPlaces places{place("program", program), place("user", user), place("everyone", everyone)};
-        const QString folder = places.folder();
-        QTEST(QFileInfo(folder).fileName(), "folder");
-        QTEST(pointerIn(folder), "pointer");
+        const PointerPlaces places{place("program", ages[0]), place("user", ages[1]), place("everyone", ages[2])};
+        const QString found = places.folder();
+        QVERIFY2(QFileInfo(found).fileName() == folder && pointerIn(found) == pointer, situation);
         // What was taken over is a file of the user's own, and there it can be written.
-        QVERIFY(WritePrivateProfileString("Configuracoes", "BD", "chosen", folder + "/ConfigIni.txt"));
+        QVERIFY(WritePrivateProfileString("Configuracoes", "BD", "chosen", found + "/ConfigIni.txt"));
         QCOMPARE(pointerIn(places.folder()), QString("chosen"));
     }
 };

@@ -19,20 +19,17 @@ private slots:
         m_file.db->Execute("Insert into Vendas (Codigo,Nome) values (2,'BALA')");
     }
 
-    void answers_data()
+    void answers()
     {
-        QTest::addColumn<QString>("sql");
-        QTest::addColumn<QString>("expected");
-        const auto where = [](const char *condition, const char *codes) {
-            QTest::newRow(condition) << QString("Select Codigo From Produtos Where %1 Order By Codigo").arg(condition)
-                                     << codes;
+        const auto check = [this](const QString &sql, const char *expected) {
+            QVERIFY2(m_file.answer(sql) == expected, qPrintable(sql + " gives " + m_file.answer(sql)));
         };
-        QTest::newRow("any case") << "SELECT max(CODIGO),MIN(codigo), Count ( * ) ,Count(VALOR) from PRODUTOS"
-                                  << "4|1|4|3";
-        QTest::newRow("all fields") << "select * from produtos where codigo=2;"
-                                    << "2|BALA|9,5|0,10|True|Doces";
-        QTest::newRow("two orders") << "Select Codigo From Produtos Order By Servico Asc, Val(Quantidade) Desc, Codigo"
-                                    << "2 1 3 4";
+        const auto where = [&](const QString &condition, const char *codes) {
+            check("Select Codigo From Produtos Where " + condition + " Order By Codigo", codes);
+        };
+        check("SELECT max(CODIGO),MIN(codigo), Count ( * ) ,Count(VALOR) from PRODUTOS", "4|1|4|3");
+        check("select * from produtos where codigo=2;", "2|BALA|9,5|0,10|True|Doces");
+        check("Select Codigo From Produtos Order By Servico Asc, Val(Quantidade) Desc, Codigo", "2 1 3 4");
         where("descriÇÃO='água'", "");
         where("[descrição] = 'ÁGUA'", "1");
         where("Codigo=1 OR Codigo=2 AND Servico=False", "1");
@@ -46,19 +43,12 @@ private slots:
         where("Codigo=Null", "");
     }
 
-    void answers()
+    void refuses()
     {
-        QFETCH(QString, sql);
-        QFETCH(QString, expected);
-        QCOMPARE(m_file.answer(sql), expected);
-    }
-
-    void refuses_data()
-    {
-        QTest::addColumn<QString>("sql");
-        QTest::addColumn<int>("error");
-        const auto refused = [](const char *sql, int error) { QTest::newRow(sql) << QString(sql) << error; };
         using namespace ErrorNumber;
+        const auto refused = [this](const QString &sql, int error) {
+            QVERIFY2(errorOf([&] { m_file.db->OpenRecordset(sql); }) == error, qPrintable(sql));
+        };
         refused("", BadSql);
         refused("Select Codigo From Produtos Where Servico = True Categoria='x' AND Codigo=1", BadSql);
         refused("Select * From Produtos Where Descrição='D'AGUA'", BadSql);
@@ -73,13 +63,6 @@ private slots:
         refused("Select * From Produtos Where Cdbl(Valor)=1 And Codigo>0", TypeMismatch);
         refused("Select * From Produtos Where Codigo=Cdbl('')", TypeMismatch);
         refused("Delete From Produtos Where Codigo=9", BadSql);
-    }
-
-    void refuses()
-    {
-        QFETCH(QString, sql);
-        QFETCH(int, error);
-        QCOMPARE(errorOf([&] { m_file.db->OpenRecordset(sql); }), error);
     }
 
     void refusesEndlessNesting()
