@@ -34,32 +34,26 @@ private slots:
         createCafe(cafe(), {});
     }
 
-    void languageIsComplete_data()
+    void languagesAreComplete()
     {
-        QTest::addColumn<QString>("language");
-        for (const char *language : {"Portugues", "Ingles", "Espanhol"})
-            QTest::newRow(language) << language;
-    }
-
-    void languageIsComplete()
-    {
-        QFETCH(QString, language);
-        QVERIFY(WritePrivateProfileString("Config_Regional", "Idioma", language.toUpper() + ".LNG",
-                                          cafe() + "/config.ini"));
-        QCOMPARE(checkCafe(cafe()), QStringList());
-
         const ResourceTable keys = resourceTable("language_keys.tsv");
         // Programs lose a text without a word when its key falls out of the list, so their number is written down here.
         QCOMPARE(keys.rows.size(), 300);
-        for (const QStringList &key : keys.rows) {
-            const QString translated = text(language, key[0], key[1]);
-            const QString original = text("Portugues", key[0], key[1]);
-            QVERIFY2(!translated.isEmpty(), qPrintable(key.join('.')));
-            // Pieces that are joined to names and numbers need their blanks in every language.
-            if (!key[1].startsWith("tab_"))
-                QVERIFY2(translated.startsWith(' ') == original.startsWith(' ') &&
-                             translated.endsWith(' ') == original.endsWith(' '),
-                         qPrintable(key.join('.')));
+        for (const QString language : {"Portugues", "Ingles", "Espanhol"}) {
+            QVERIFY(WritePrivateProfileString("Config_Regional", "Idioma", language.toUpper() + ".LNG",
+                                              cafe() + "/config.ini"));
+            QCOMPARE(checkCafe(cafe()), QStringList());
+            for (const QStringList &key : keys.rows) {
+                const QString translated = text(language, key[0], key[1]);
+                const QString original = text("Portugues", key[0], key[1]);
+                const QString name = language + ' ' + key.join('.');
+                QVERIFY2(!translated.isEmpty(), qPrintable(name));
+                // Pieces that are joined to names and numbers need their blanks in every language.
+                if (!key[1].startsWith("tab_"))
+                    QVERIFY2(translated.startsWith(' ') == original.startsWith(' ') &&
+                                 translated.endsWith(' ') == original.endsWith(' '),
+                             qPrintable(name));
+            }
         }
     }
 
