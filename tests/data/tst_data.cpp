@@ -1,5 +1,6 @@
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
+#include "data/Funcoes.h"
 #include "platform/base/Err.h"
 #include "tests/support/TestCafe.h"
 
@@ -7,7 +8,8 @@
 #include <QDir>
 #include <QTest>
 
-class tst_acesso_bd : public QObject
+/// The data file as the whole program opens and asks it.
+class tst_data : public QObject
 {
     Q_OBJECT
 
@@ -66,6 +68,38 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(RunTimeError, before->MoveNext());
     }
 
+    void keysOfANumberBox()
+    {
+        const auto typed = [](const QString &keys, bool negative) {
+            QString text;
+            for (const QChar key : keys)
+                if (const int code = Filtrar_Numero(key.unicode(), text, negative))
+                    text += QChar(code);
+            return text;
+        };
+        QCOMPARE(typed("a1,2.3,4 -\r5\b", false), QString("1,2345\b"));
+        QCOMPARE(typed("1-2-3", true), QString("1-23"));
+    }
+
+    void aRowIsReadBesideTheKnownPath()
+    {
+        cafe->execute("Insert into Produtos (Codigo,Descrição,Categoria) values (9001,'TESTE','BEBIDAS')");
+        CaminhoBD = cafe->folder() + "/anything.else";
+        QCOMPARE(Categoria_Do_Produto("TESTE"), QString("BEBIDAS"));
+        QCOMPARE(CaminhoBD, cafe->folder() + "/\\Morvelane.mdb");
+    }
+
+    void theNewestCashPeriodDecides()
+    {
+        const auto open = [](bool expected, double number) { return Caixa_Aberto() == expected && IdCaixa == number; };
+        cafe->execute("Delete From Registro_Caixa");
+        QVERIFY(open(false, 0));
+        cafe->execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (1000000,True)");
+        QVERIFY(open(true, 1000000));
+        cafe->execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (1000001,False)");
+        QVERIFY(open(false, 1000001));
+    }
+
 private:
     /// Whether the main handle answers a query.
     static bool canAsk()
@@ -79,5 +113,5 @@ private:
     std::optional<TestCafe> cafe;
 };
 
-QTEST_MAIN(tst_acesso_bd)
-#include "tst_acesso_bd.moc"
+QTEST_MAIN(tst_data)
+#include "tst_data.moc"
