@@ -40,7 +40,7 @@ constexpr auto asciiKeys = [] {
     return keys;
 }();
 
-bool isAscii(char byte)
+bool isAsciiByte(char byte)
 {
     return static_cast<unsigned char>(byte) < firstNonAscii;
 }
@@ -127,7 +127,7 @@ char32_t takeCharacter(std::string_view &text)
 
 std::string languageKey(std::string_view utf8)
 {
-    const auto beyond = std::find_if_not(utf8.begin(), utf8.end(), isAscii);
+    const auto beyond = std::find_if_not(utf8.begin(), utf8.end(), isAsciiByte);
     std::string key(utf8.begin(), beyond);
     std::transform(key.begin(), key.end(), key.begin(), asciiKey);
     if (beyond == utf8.end())
