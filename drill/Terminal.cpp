@@ -5,9 +5,9 @@
 #include "platform/base/Machine.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Forms.h"
-#include "platform/window/Prompts.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/Controls.h"
+#include "tests/support/Willing.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -26,7 +26,7 @@ void say(const QStringList &words)
     std::cout << words.join('\t').toStdString() << std::endl;
 }
 
-class Counter : public PromptService
+class Counter : public Willing
 {
 public:
     Counter(frmprincipal &shell, int firstSerial) : m_shell(shell), m_serial(firstSerial) {}
@@ -61,16 +61,15 @@ public:
             tick();
     }
 
-    int message(const QString &text, int style, const QString &) override
+    int message(const QString &text, int style, const QString &title) override
     {
         m_told = true;
         if (!m_kind.isEmpty() && text == m_doneTexts.value(m_kind))
             done();
         else
             say({"told", text.section('\n', 0, 0)});
-        if ((style & vbYesNo) == 0)
-            return vbOK;
-        if (m_asksForSign) {
+        const bool asks = (style & vbYesNo) != 0;
+        if (asks && m_asksForSign) {
             m_asksForSign = false;
             say({"question"});
             std::string sign;
@@ -79,10 +78,8 @@ public:
         }
         // The question about a code comes when the customer is stored.
         const bool offersCode = text == m_doneTexts.value("customer");
-        return offersCode && !m_wantsCode ? vbNo : vbYes;
+        return offersCode && !m_wantsCode ? int(vbNo) : Willing::message(text, style, title);
     }
-    QString openFile(const FileDialog &) override { return {}; }
-    QString saveFile(const FileDialog &) override { return {}; }
 
 private:
     void begin(const QString &kind, int serial, const QString &value = {})
@@ -122,12 +119,8 @@ private:
 
     void fillCart(Form &sale)
     {
-        for (const QString &product : drilledProducts) {
-            replaceText(control(sale, "cmbprodutos"), product);
-            pressKey(control(sale, "cmbprodutos"), Qt::Key_Return);
-            replaceText(control(sale, "txtquantidade"), QString::number(m_serial));
-            pressKey(control(sale, "txtquantidade"), Qt::Key_Return);
-        }
+        for (const QString &product : drilledProducts)
+            putIntoCart(sale, product, QString::number(m_serial));
         replaceText(control(sale, "txtvalor_pago"), "99999999");
     }
 

@@ -6,7 +6,7 @@
 #include "tests/support/Controls.h"
 #include "tests/support/PdfBarcodes.h"
 #include "tests/support/PdfText.h"
-#include "tour/Portrait.h"
+#include "tests/support/Portrait.h"
 #include "tour/Tour.h"
 
 #include <QCoreApplication>

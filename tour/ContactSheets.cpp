@@ -2,8 +2,8 @@
 
 #include "platform/window/Form.h"
 #include "platform/window/Look.h"
+#include "tests/support/Scenes.h"
 #include "tour/OffscreenScreen.h"
-#include "tour/Scenes.h"
 
 #include <QApplication>
 #include <QDir>
@@ -144,7 +144,7 @@ bool drawScenes(const QString &folder, const QString &desktop)
 {
     bool sound = true;
     for (const QString &language : Scenes::languages()) {
-        Scenes scenes(language, [&](const QString &what) {
+        Scenes scenes(language, [&](const QString &what, const Place &) {
             QTextStream(stderr) << language << ": " << what << '\n';
             sound = false;
         });

@@ -3,8 +3,8 @@
 #include "platform/window/Forms.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/PdfText.h"
-#include "tour/Desk.h"
-#include "tour/Portrait.h"
+#include "tests/support/Portrait.h"
+#include "tour/ListDesk.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -17,7 +17,7 @@ QString text(const QString &key)
     return textoIdioma("frmcadastro_clientes", key);
 }
 
-void takePhoto(Tour &tour, Desk &desk)
+void takePhoto(Tour &tour, ListDesk &desk)
 {
     click(desk.window(), "cmdwebcam");
     Form &webcam = loadedWindow("frmwebcam");
@@ -27,7 +27,7 @@ void takePhoto(Tour &tour, Desk &desk)
     click(webcam, "cmdconfirmar");
 }
 
-void registerCustomer(Tour &tour, Desk &desk)
+void registerCustomer(Tour &tour, ListDesk &desk)
 {
     tour.chapter("A new customer, by keyboard alone but for the photo");
     control(desk.window(), "txtnome").setFocus();
@@ -50,7 +50,7 @@ void registerCustomer(Tour &tour, Desk &desk)
     tour.expect("counted", desk.counted(), "301" + textoCarregado("frmcadastro_clientes", "String6"));
 }
 
-void renameBuyer(Tour &tour, Desk &desk)
+void renameBuyer(Tour &tour, ListDesk &desk)
 {
     tour.chapter("A rename that the sales follow");
     const QString name = tour.value("Select Nome from Venda_Produtos Where Codigo=1");
@@ -64,7 +64,7 @@ void renameBuyer(Tour &tour, Desk &desk)
     tour.expect("in the sale", tour.value("Select Nome from Venda_Produtos Where Codigo=1"), name + " NETO");
 }
 
-void search(Tour &tour, Desk &desk)
+void search(Tour &tour, ListDesk &desk)
 {
     tour.chapter("A search by the nick");
     desk.find("sofia.pr");
@@ -72,7 +72,7 @@ void search(Tour &tour, Desk &desk)
     tour.picture(desk.window(), "frmcadastro_clientes-search");
 }
 
-void removeCustomers(Tour &tour, Desk &desk)
+void removeCustomers(Tour &tour, ListDesk &desk)
 {
     tour.chapter("Three customers removed");
     clickCell(desk.list(), 4, 1);
@@ -85,7 +85,7 @@ void removeCustomers(Tour &tour, Desk &desk)
     tour.expect("counted", desk.counted(), "298" + textoCarregado("frmcadastro_clientes", "String6"));
 }
 
-void printAndSave(Tour &tour, Desk &desk)
+void printAndSave(Tour &tour, ListDesk &desk)
 {
     tour.chapter("The list on paper and in a file");
     const int customers = desk.list().Rows() - 1;
@@ -116,10 +116,10 @@ void tourCustomers(Tour &tour)
     QCoreApplication::processEvents();
     click(main, "cmdclientes");
 
-    Desk desk(tour, {.window = "frmcadastro_clientes",
-                     .list = "tab_clientes",
-                     .count = "lbltotal_clientes",
-                     .search = "txtnome_busca"});
+    ListDesk desk(tour, {.window = "frmcadastro_clientes",
+                         .list = "tab_clientes",
+                         .count = "lbltotal_clientes",
+                         .search = "txtnome_busca"});
     tour.picture(desk.window(), "frmcadastro_clientes");
     registerCustomer(tour, desk);
     renameBuyer(tour, desk);

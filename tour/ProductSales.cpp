@@ -41,28 +41,15 @@ public:
     Form &window() { return m_window; }
     QString caption(const QString &label) { return control<QLabel>(m_window, label).text(); }
 
-    void findCustomer(const QString &name)
-    {
-        auto &box = control<TextBox>(m_window, "txtnome");
-        replaceText(box, name);
-        pressKey(box, Qt::Key_Return);
-    }
+    void findCustomer(const QString &name) { enterText(control(m_window, "txtnome"), name); }
 
     void scan(const QString &barcode, const QString &quantity)
     {
         enterText(control<TextBox>(m_window, "txtcod_barra"), barcode);
-        add(quantity);
+        enterText(control(m_window, "txtquantidade"), quantity);
     }
 
-    void choose(const QString &code, const QString &quantity)
-    {
-        auto &combo = control<QComboBox>(m_window, "cmbprodutos");
-        combo.setFocus();
-        combo.lineEdit()->selectAll();
-        typeText(*combo.lineEdit(), code);
-        pressKey(*combo.lineEdit(), Qt::Key_Return);
-        add(quantity);
-    }
+    void choose(const QString &code, const QString &quantity) { putIntoCart(m_window, code, quantity); }
 
     void pay(const QString &amount)
     {
@@ -80,13 +67,6 @@ public:
     void expectSuccess() { m_tour.attendant().expectNotice(box("MsgBox13"), box("MsgBox1_6")); }
 
 private:
-    void add(const QString &quantity)
-    {
-        auto &box = control<TextBox>(m_window, "txtquantidade");
-        replaceText(box, quantity);
-        pressKey(box, Qt::Key_Return);
-    }
-
     Tour &m_tour;
     Form &m_window;
 };

@@ -4,7 +4,7 @@
 #include "platform/window/Forms.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/PdfText.h"
-#include "tour/Desk.h"
+#include "tour/ListDesk.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>
@@ -27,7 +27,7 @@ void whileOpen(const QString &name, const std::function<void()> &work)
     });
 }
 
-void addCategory(Tour &tour, Desk &desk)
+void addCategory(Tour &tour, ListDesk &desk)
 {
     tour.chapter("A new category");
     whileOpen("frmcadastro_categoria", [&tour] {
@@ -40,7 +40,7 @@ void addCategory(Tour &tour, Desk &desk)
     pickEntry(control<QComboBox>(desk.window(), "cmbcategoria"), "SUCOS");
 }
 
-void addProduct(Tour &tour, Desk &desk)
+void addProduct(Tour &tour, ListDesk &desk)
 {
     tour.chapter("A new product, by keyboard and scanner alone");
     control(desk.window(), "txtdescrição").setFocus();
@@ -56,7 +56,7 @@ void addProduct(Tour &tour, Desk &desk)
     tour.picture(desk.window(), "frmcadastro_produtos-new");
 }
 
-void editProduct(Tour &tour, Desk &desk)
+void editProduct(Tour &tour, ListDesk &desk)
 {
     tour.chapter("An edited product, whose category the sales follow");
     const QString product = "ENERGÉTICO LATA 473ML";
@@ -72,7 +72,7 @@ void editProduct(Tour &tour, Desk &desk)
                 tour.value("Select Categoria from Venda_Produtos Where Descrição='" + product + "'"), "SUCOS");
 }
 
-void removeProducts(Tour &tour, Desk &desk)
+void removeProducts(Tour &tour, ListDesk &desk)
 {
     tour.chapter("Three products removed");
     clickCell(desk.list(), 4, 1);
@@ -85,7 +85,7 @@ void removeProducts(Tour &tour, Desk &desk)
     tour.expect("counted", desk.counted(), "149" + textoCarregado("frmcadastro_produtos", "String3"));
 }
 
-void printList(Tour &tour, Desk &desk)
+void printList(Tour &tour, ListDesk &desk)
 {
     tour.chapter("The list on paper");
     const int products = desk.list().Rows() - 1;
@@ -104,15 +104,13 @@ void sellProduct(Tour &tour, Form &sale)
     tour.chapter("Back at the counter: the new product is sold with what lay in the cart");
     tour.expect("in the cart", control<FlexGrid>(sale, "tab_consumo").TextMatrix(1, 1), "CAFÉ EXPRESSO");
     enterText(control(sale, "txtcod_barra"), "7891200009990");
-    replaceText(control(sale, "txtquantidade"), "2");
-    pressKey(control(sale, "txtquantidade"), Qt::Key_Return);
+    enterText(control(sale, "txtquantidade"), "2");
     tour.picture(sale, "frmvenda-new-product");
     const auto text = [](const QString &key) { return textoIdioma("frmvenda", key); };
     tour.attendant().expect(textoCarregado("frmvenda", "String5") + "R$ 17,80?", vbYesNo + vbInformation, "Atenção",
                             vbYes);
     tour.attendant().expectNotice(text("MsgBox13"), text("MsgBox1_6"));
-    replaceText(control(sale, "txtvalor_pago"), "20");
-    pressKey(control(sale, "txtvalor_pago"), Qt::Key_Return);
+    enterText(control(sale, "txtvalor_pago"), "20");
     tour.expect("line",
                 tour.row("Select Quantidade,Valor_Total,Categoria from Venda_Produtos Where "
                          "Descrição='SUCO DE CAJU 300ML'"),
@@ -129,17 +127,13 @@ void tourProducts(Tour &tour)
     click(main, "cmdvendaprod");
     Form &sale = loadedWindow("frmvenda");
     click(sale, "optavulsa");
-    auto &products = control<QComboBox>(sale, "cmbprodutos");
-    replaceText(*products.lineEdit(), "K01");
-    pressKey(*products.lineEdit(), Qt::Key_Return);
-    replaceText(control(sale, "txtquantidade"), "1");
-    pressKey(control(sale, "txtquantidade"), Qt::Key_Return);
+    putIntoCart(sale, "K01", "1");
 
     whileOpen("frmcadastro_produtos", [&tour] {
-        Desk desk(tour, {.window = "frmcadastro_produtos",
-                         .list = "tab_produtos",
-                         .count = "lbltotal_produtos",
-                         .search = "txtdescrição_busca"});
+        ListDesk desk(tour, {.window = "frmcadastro_produtos",
+                             .list = "tab_produtos",
+                             .count = "lbltotal_produtos",
+                             .search = "txtdescrição_busca"});
         tour.picture(desk.window(), "frmcadastro_produtos");
         addCategory(tour, desk);
         addProduct(tour, desk);

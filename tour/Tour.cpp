@@ -25,7 +25,8 @@ QStringList fieldsOf(const Recordset &rs)
 }
 } // namespace
 
-Tour::Tour(const QString &folder) : m_folder(folder), m_attendant([this](const QString &what) { fail(what); })
+Tour::Tour(const QString &folder)
+    : m_folder(folder), m_attendant([this](const QString &what, const Place &) { fail(what); })
 {
     if (!QDir().mkpath(m_folder))
         throw RunTimeError(ErrorNumber::PathAccess, "The folder " + m_folder + " cannot be made.");

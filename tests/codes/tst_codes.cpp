@@ -25,25 +25,26 @@ public:
         change("Descontos", changes + QString(" Where Codigo=%1").arg(code));
     }
     /// The question whether to sell; `reduced` is empty without a discount.
-    void expectQuestion(const QString &total, const QString &reduced = {}, int answer = vbYes)
+    void expectQuestion(const QString &total, const QString &reduced = {}, int answer = vbYes,
+                        const Place &where = Place::current())
     {
         const QString discount = reduced.isEmpty() ? QString() : text("MsgBox13_3") + "R$ " + reduced;
         attendant.expect(text("MsgBox13") + "R$ " + total + discount + text("MsgBox13_4") + "\nANA LIMA ? ",
-                         vbYesNo + vbInformation, text("MsgBox1_2"), answer);
+                         vbYesNo + vbInformation, text("MsgBox1_2"), answer, {}, where);
     }
     /// Confirms and states that it sells.
-    void sell(const QString &total, const QString &reduced = {})
+    void sell(const QString &total, const QString &reduced = {}, const Place &where = Place::current())
     {
-        expectQuestion(total, reduced);
-        expectNotice("MsgBox14");
+        expectQuestion(total, reduced, vbYes, where);
+        expectNotice("MsgBox14", where);
         press("cmdfinalizar");
-        QVERIFY(!isOpen());
+        require(!isOpen(), "The window stays open", where);
     }
     /// Confirms and states that it is refused with that text, that focus and nothing stored.
-    void refused(const QString &key, const QString &focus = {})
+    void refused(const QString &key, const QString &focus = {}, const Place &where = Place::current())
     {
-        refuses("cmdfinalizar", text(key), focus);
-        QVERIFY(sales().isEmpty() && links().isEmpty());
+        refuses("cmdfinalizar", text(key), focus, where);
+        require(sales().isEmpty() && links().isEmpty(), "Something is stored", where);
     }
 
     QStringList codes()
@@ -247,5 +248,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_codes)
+STORY_MAIN(tst_codes)
 #include "tst_codes.moc"

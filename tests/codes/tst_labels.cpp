@@ -135,5 +135,5 @@ private:
     TestCafe m_cafe;
 };
 
-QTEST_MAIN(tst_labels)
+STORY_MAIN(tst_labels)
 #include "tst_labels.moc"

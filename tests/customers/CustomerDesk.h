@@ -36,6 +36,12 @@ public:
     {
         return text(key) + value + text("MsgBox6_2") + value + text("MsgBox6_3");
     }
-    void expectOffer(int answer = vbNo) { expectQuestion("MsgBox21", "MsgBox13_2", vbInformation, answer); }
-    void expectSave(int answer = vbYes) { expectQuestion("MsgBox5", "MsgBox5_2", vbQuestion, answer); }
+    void expectOffer(int answer = vbNo, const Place &where = Place::current())
+    {
+        expectQuestion("MsgBox21", "MsgBox13_2", vbInformation, answer, where);
+    }
+    void expectSave(int answer = vbYes, const Place &where = Place::current())
+    {
+        expectQuestion("MsgBox5", "MsgBox5_2", vbQuestion, answer, where);
+    }
 };

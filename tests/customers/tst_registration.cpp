@@ -204,5 +204,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_registration)
+STORY_MAIN(tst_registration)
 #include "tst_registration.moc"

@@ -135,5 +135,5 @@ private:
     TestCafe m_cafe;
 };
 
-QTEST_MAIN(tst_photo)
+STORY_MAIN(tst_photo)
 #include "tst_photo.moc"

@@ -32,5 +32,8 @@ public:
             pressKey(*window().focusWidget(), Qt::Key_Return);
         }
     }
-    void expectSave(int answer = vbYes) { expectQuestion("MsgBox14", "MsgBox11_2", vbQuestion, answer); }
+    void expectSave(int answer = vbYes, const Place &where = Place::current())
+    {
+        expectQuestion("MsgBox14", "MsgBox11_2", vbQuestion, answer, where);
+    }
 };

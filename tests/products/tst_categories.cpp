@@ -7,10 +7,10 @@
 namespace {
 /// The categories' window in a café with the categories BEBIDAS, DIVERSOS and DOCES, each with one product and one sale
 /// of it in each table of sales.
-class Desk : public TestDesk
+class CategoryDesk : public TestDesk
 {
 public:
-    explicit Desk(bool oti = true)
+    explicit CategoryDesk(bool oti = true)
         : TestDesk({"frmcadastro_categoria", "tab_categorias", "Categoria"}, use<frmcadastro_categoria>, brazil,
                    {.oti = oti})
         , tables{QStringList{"Produtos", "Venda_Produtos"} + QStringList(oti ? 1 : 0, "Venda_ProdutosOti")}
@@ -36,7 +36,10 @@ public:
         type("txtnome", name);
         at<QCheckBox>("chkpadrao").setChecked(isDefault);
     }
-    void expectSave() { expectQuestion("MsgBox5", "MsgBox5_2", vbQuestion, vbYes); }
+    void expectSave(const Place &where = Place::current())
+    {
+        expectQuestion("MsgBox5", "MsgBox5_2", vbQuestion, vbYes, where);
+    }
     void save()
     {
         expectSave();
@@ -71,7 +74,7 @@ class tst_categories : public QObject
 private slots:
     void mendsTheDefault()
     {
-        Desk desk;
+        CategoryDesk desk;
         for (const auto &[before, after] :
              {std::pair("bebidas", "BEBIDAS"), std::pair("SUMIU", "DIVERSOS"), std::pair("D'ÁGUA", "DIVERSOS")}) {
             desk.cafe.setIni("Categorias", "Padrao", before);
@@ -85,7 +88,7 @@ private slots:
 
     void adds()
     {
-        Desk desk;
+        CategoryDesk desk;
         desk.cafe.execute("Delete from Categoria");
         desk.open();
         desk.fill("D'ÁGUA");
@@ -111,7 +114,7 @@ private slots:
 
     void renamesEverywhere()
     {
-        Desk desk;
+        CategoryDesk desk;
         desk.open();
         desk.edit(3);
         QVERIFY(!desk.at("cmdadicionar").isEnabled() && !desk.at("cmdremover").isEnabled());
@@ -138,7 +141,7 @@ private slots:
 
     void keepsTheCategoryThatStays()
     {
-        Desk desk;
+        CategoryDesk desk;
         desk.open();
         desk.expectRemoval(2, 2);
         desk.refuses("cmdremover", desk.text("MsgBox14"));
@@ -153,7 +156,7 @@ private slots:
     void removesInBothDirections()
     {
         for (const auto &[first, last] : {std::pair(3, 4), std::pair(4, 3)}) {
-            Desk desk(first < last);
+            CategoryDesk desk(first < last);
             desk.addCategory(9, "ZERO");
             desk.cafe.setIni("Categorias", "Padrao", "ZERO");
             desk.open();
@@ -169,5 +172,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_categories)
+STORY_MAIN(tst_categories)
 #include "tst_categories.moc"

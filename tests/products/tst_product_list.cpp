@@ -97,5 +97,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_product_list)
+STORY_MAIN(tst_product_list)
 #include "tst_product_list.moc"

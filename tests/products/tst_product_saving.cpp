@@ -172,5 +172,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_product_saving)
+STORY_MAIN(tst_product_saving)
 #include "tst_product_saving.moc"

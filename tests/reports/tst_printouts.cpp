@@ -148,5 +148,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_printouts)
+STORY_MAIN(tst_printouts)
 #include "tst_printouts.moc"

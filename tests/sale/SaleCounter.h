@@ -18,11 +18,7 @@ public:
         add("Descontos", "Codigo=1, Fixo=False, LiberarAuto=False, Motivo_Desconto='NEGOCIADO'");
     }
 
-    void put(const QString &product, const QString &quantity = "1")
-    {
-        enter("cmbprodutos", product);
-        enter("txtquantidade", quantity);
-    }
+    void put(const QString &product, const QString &quantity = "1") { putIntoCart(window(), product, quantity); }
     /// Lines of the cart as "description|quantity|value".
     QStringList cart()
     {
@@ -32,15 +28,17 @@ public:
         return lines;
     }
 
-    void expectQuestion(const QString &amount, int answer = vbYes)
+    void expectQuestion(const QString &amount, int answer = vbYes, const Place &where = Place::current())
     {
-        attendant.expect("Confirma a venda no valor de R$ " + amount + "?", vbYesNo + vbInformation, "Atenção", answer);
+        attendant.expect("Confirma a venda no valor de R$ " + amount + "?", vbYesNo + vbInformation, "Atenção", answer,
+                         {}, where);
     }
     /// Pays with Enter in the box, which brings the question and the success.
-    void sell(const QString &paid, const QString &amount = "10,00, paga por\nANA LIMA")
+    void sell(const QString &paid, const QString &amount = "10,00, paga por\nANA LIMA",
+              const Place &where = Place::current())
     {
-        expectQuestion(amount);
-        expectNotice("MsgBox13");
+        expectQuestion(amount, vbYes, where);
+        expectNotice("MsgBox13", where);
         enter("txtvalor_pago", paid);
     }
     QStringList sold(const QString &fields) { return stored(fields); }

@@ -79,5 +79,5 @@ private:
     }
 };
 
-QTEST_MAIN(tst_receipts)
+STORY_MAIN(tst_receipts)
 #include "tst_receipts.moc"

@@ -150,5 +150,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_scans)
+STORY_MAIN(tst_scans)
 #include "tst_scans.moc"

@@ -5,6 +5,7 @@
 #include "shell/frmprincipal.h"
 #include "tests/sale/SaleCounter.h"
 #include "tests/support/FileHolder.h"
+#include "tests/support/Willing.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -15,17 +16,15 @@
 #include <string>
 
 namespace {
-/// An attendant who says yes to everything, and writes down what she was told.
-class Willing : public PromptService
+/// An attendant who writes down what she was told.
+class Clerk : public Willing
 {
 public:
-    int message(const QString &text, int style, const QString &) override
+    int message(const QString &text, int style, const QString &title) override
     {
         std::cout << text.section('\n', 0, 0).toStdString() << std::endl;
-        return (style & vbYesNo) != 0 ? vbYes : vbOK;
+        return Willing::message(text, style, title);
     }
-    QString openFile(const FileDialog &) override { return {}; }
-    QString saveFile(const FileDialog &) override { return {}; }
 };
 
 /// A terminal of its own: at a line on its input it sells carts of one BALA and one CAFÉ.
@@ -34,8 +33,8 @@ int runTerminal(const QString &programFolder, int carts)
     RegionalSettings::use(QLocale(QLocale::Portuguese, QLocale::Brazil));
     Machine::current().programFolder = [=] { return programFolder; };
     Machine::current().playWave = [](const QString &) {};
-    Willing willing;
-    PromptService::use(&willing);
+    Clerk clerk;
+    PromptService::use(&clerk);
     auto &shell = Forms::use<frmprincipal>();
     shell.Show();
     if (!QTest::qWaitForWindowActive(&shell))
@@ -46,11 +45,8 @@ int runTerminal(const QString &programFolder, int carts)
     std::string sign;
     std::getline(std::cin, sign);
     for (int cart = 0; cart < carts; ++cart) {
-        for (const char *product : {"BALA", "CAFÉ"}) {
-            replaceText(control(sale, "cmbprodutos"), product);
-            pressKey(control(sale, "cmbprodutos"), Qt::Key_Return);
-            pressKey(control(sale, "txtquantidade"), Qt::Key_Return);
-        }
+        for (const char *product : {"BALA", "CAFÉ"})
+            putIntoCart(sale, product, "1");
         replaceText(control(sale, "txtvalor_pago"), "1000");
         click(sale, "cmdfinalizar");
     }

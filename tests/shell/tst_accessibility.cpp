@@ -303,5 +303,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_accessibility)
+STORY_MAIN(tst_accessibility)
 #include "tst_accessibility.moc"

@@ -147,5 +147,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_frmprincipal)
+STORY_MAIN(tst_frmprincipal)
 #include "tst_frmprincipal.moc"

@@ -1,7 +1,7 @@
 #include "platform/window/Application.h"
 #include "platform/window/Form.h"
 #include "platform/window/Look.h"
-#include "tour/Scenes.h"
+#include "tests/support/Scenes.h"
 
 #include <QAbstractButton>
 #include <QLabel>

@@ -23,21 +23,22 @@ Attendant::~Attendant()
     PromptService::use(nullptr);
 }
 
-void Attendant::expect(const QString &text, int style, const QString &title, int answer, const Action &meanwhile)
+void Attendant::expect(const QString &text, int style, const QString &title, int answer, const Action &meanwhile,
+                       const Place &where)
 {
     // A box without a title of its own bears the program's.
     const QString shownTitle = title.isEmpty() ? QGuiApplication::applicationDisplayName() : title;
     const QString box = messageBox(text, style, shownTitle);
     const bool asksYesNo = (style & vbYesNo) != 0;
     if (asksYesNo != (answer == vbYes || answer == vbNo))
-        m_sink("No button for this answer: " + box);
-    m_expected.append({box, answer, {}, meanwhile});
+        m_sink("No button for this answer: " + box, where);
+    m_expected.append({where, box, answer, {}, meanwhile});
 }
 
 void Attendant::finish()
 {
     for (const Expected &missing : std::as_const(m_expected))
-        m_sink("Never came: " + missing.box);
+        m_sink("Never came: " + missing.box, missing.where);
     m_expected.clear();
 }
 
@@ -52,7 +53,7 @@ int Attendant::message(const QString &text, int style, const QString &title)
 Attendant::Expected Attendant::meet(const QString &box)
 {
     if (m_expected.isEmpty()) {
-        m_sink("Unexpected: " + box);
+        m_sink("Unexpected: " + box, Place::current());
         return {};
     }
     const Expected expected = m_expected.takeFirst();
@@ -61,11 +62,11 @@ Attendant::Expected Attendant::meet(const QString &box)
             expected.meanwhile();
         return expected;
     }
-    m_sink("Expected: " + expected.box + "\nbut came: " + box);
+    m_sink("Expected: " + expected.box + "\nbut came: " + box, expected.where);
     return {};
 }
 
-void Attendant::failTest(const QString &what)
+void Attendant::failTest(const QString &what, const Place &where)
 {
-    QTest::qFail(qPrintable(what), __FILE__, __LINE__);
+    QTest::qFail(qPrintable(what), where.file_name(), static_cast<int>(where.line()));
 }

@@ -21,17 +21,12 @@ void typeCharacter(QWidget &control, QChar character)
 }
 } // namespace
 
-Form &loadedWindow(const QString &name)
+Form &loadedWindow(const QString &name, const Place &where)
 {
     for (Form *form : Forms::loaded())
         if (form->Name() == name)
             return *form;
-    qFatal("No window is loaded that is called %s", qPrintable(name));
-}
-
-void failForMissingControl(const QWidget &window, const QString &name)
-{
-    qFatal("%s has no such control: %s", qPrintable(window.objectName()), qPrintable(name));
+    endStory("No window is loaded that is called " + name, where);
 }
 
 void click(QWidget &control)
@@ -74,11 +69,16 @@ void enterText(QWidget &control, const QString &text)
     pressKey(control, Qt::Key_Return);
 }
 
-void pickEntry(QComboBox &combo, const QString &entry)
+void putIntoCart(const QWidget &sale, const QString &product, const QString &quantity)
+{
+    enterText(control(sale, "cmbprodutos"), product);
+    enterText(control(sale, "txtquantidade"), quantity);
+}
+
+void pickEntry(QComboBox &combo, const QString &entry, const Place &where)
 {
     const int index = combo.findText(entry);
-    if (index < 0)
-        qFatal("%s has no such entry: %s", qPrintable(combo.objectName()), qPrintable(entry));
+    require(index >= 0, combo.objectName() + " has no such entry: " + entry, where);
     combo.showPopup();
     combo.view()->setCurrentIndex(combo.model()->index(index, combo.modelColumn(), combo.rootModelIndex()));
     pressKey(*combo.view(), Qt::Key_Return);

@@ -5,7 +5,7 @@
 #include <QTest>
 
 TestDesk::TestDesk(const Names &names, Form &(*make)(), const QLocale &region, const CafeOptions &options)
-    : cafe(region, options), m_names(names), m_make(make)
+    : Desk(attendant, names), cafe(region, options), m_make(make)
 {
     cafe.execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (7,True)");
     add("Clientes", "Codigo=1, Nome='ANA LIMA', Nick='ANINHA', Grupo='VIP', Documento='123', Autorizado=True");
@@ -28,12 +28,12 @@ void TestDesk::add(const QString &table, const QString &changes)
     change(table, changes + " Where Codigo=0");
 }
 
-void TestDesk::open()
+void TestDesk::open(const Place &where)
 {
     Descarregar_Forms();
     Form &form = m_make();
     form.Show();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
+    require(QTest::qWaitForWindowActive(&form), form.Name() + " does not open", where);
 }
 
 bool TestDesk::isOpen() const
@@ -41,56 +41,7 @@ bool TestDesk::isOpen() const
     return Form_Aberto(m_names.window);
 }
 
-QString TestDesk::shown(const QString &name)
-{
-    const char *property = at(name).inherits("QComboBox")        ? "currentText"
-                           : at(name).inherits("QPlainTextEdit") ? "plainText"
-                                                                 : "text";
-    return at(name).property(property).toString();
-}
-
-void TestDesk::select(int first, int last)
-{
-    clickCell(list(), first, 1);
-    clickCell(list(), last, 1, Qt::ShiftModifier);
-}
-
-void TestDesk::edit(int row)
-{
-    clickCell(list(), row, 1);
-    press("cmdeditar");
-}
-
-void TestDesk::refuses(const QString &button, const QString &notice, const QString &focus)
-{
-    expectNoticeText(notice);
-    press(button);
-    QVERIFY2(focus.isEmpty() || at(focus).hasFocus(), qPrintable(notice));
-}
-
 QStringList TestDesk::stored(const QString &fields, const QString &table)
 {
     return cafe.query("Select " + fields + " from " + (table.isEmpty() ? m_names.table : table) + " Order By Codigo");
-}
-
-QString TestDesk::row(int row)
-{
-    QStringList texts;
-    for (int column = 0; column < list().Cols(); ++column)
-        texts += list().TextMatrix(row, column);
-    return texts.join('|');
-}
-
-QString TestDesk::highlighted()
-{
-    const QItemSelection rows = list().selectionModel()->selection();
-    return rows.isEmpty() ? QString() : QString("%1-%2").arg(rows.first().top() + 1).arg(rows.first().bottom() + 1);
-}
-
-QStringList TestDesk::listed(int column)
-{
-    QStringList texts;
-    for (int row = 1; row < list().Rows(); ++row)
-        texts += list().TextMatrix(row, column);
-    return texts;
 }

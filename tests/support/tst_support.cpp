@@ -11,13 +11,15 @@ class tst_support : public QObject
 private slots:
     void noticesWhatIsNotAsExpected()
     {
-        QStringList failures;
+        QList<unsigned> failures;
+        unsigned expected = 0;
         {
-            Attendant attendant([&](const QString &what) { failures += what; });
+            Attendant attendant([&](const QString &, const Place &where) { failures += where.line(); });
             QCOMPARE(MsgBox("delete?", vbYesNo), int(vbNo));
             QCOMPARE(failures.size(), 1);
             for (const auto &[text, style, title] :
                  {std::tuple("deleted", 64, "title"), {"saved", 64 + 4, "title"}, {"saved", 64, "another"}}) {
+                expected = Place::current().line() + 1;
                 attendant.expectNotice("saved", "title");
                 MsgBox(text, style, title);
             }
@@ -27,8 +29,10 @@ private slots:
         }
         // The last one never came.
         QCOMPARE(failures.size(), 6);
+        // A box that isn't the one expected is told at the line that expected it.
+        QCOMPARE(failures[3], expected);
     }
 };
 
-QTEST_MAIN(tst_support)
+STORY_MAIN(tst_support)
 #include "tst_support.moc"

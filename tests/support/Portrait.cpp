@@ -1,4 +1,4 @@
-#include "tour/Portrait.h"
+#include "tests/support/Portrait.h"
 
 #include <QPainter>
 #include <QRandomGenerator>

@@ -1,4 +1,4 @@
-#include "tour/Scenes.h"
+#include "tests/support/Scenes.h"
 
 #include "checkout/frmconfig_recibo.h"
 #include "codes/frmcodigo_rapido.h"
@@ -15,7 +15,7 @@
 #include "shell/frmprincipal.h"
 #include "tests/support/Controls.h"
 #include "tests/support/FakeCamera.h"
-#include "tour/Portrait.h"
+#include "tests/support/Portrait.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -50,25 +50,13 @@ Form &open()
     return window;
 }
 
-void enter(const Form &window, const QString &box, const QString &text)
-{
-    replaceText(control(window, box), text);
-    pressKey(control(window, box), Qt::Key_Return);
-}
-
 Form &sale(bool big)
 {
     Form &window = open<frmvenda>();
-    enter(window, "txtnome", longName);
-    const auto put = [&](const QString &product, const QString &quantity) {
-        auto &box = *control<QComboBox>(window, "cmbprodutos").lineEdit();
-        replaceText(box, product);
-        pressKey(box, Qt::Key_Return);
-        enter(window, "txtquantidade", quantity);
-    };
+    enterText(control(window, "txtnome"), longName);
     if (big)
-        put("B01", "3");
-    put(lowProduct, "1");
+        putIntoCart(window, "B01", "3");
+    putIntoCart(window, lowProduct, "1");
     return window;
 }
 
@@ -127,7 +115,7 @@ Form &editedCustomer()
 Form &productList(const QString &product)
 {
     Form &window = open<frmcadastro_produtos>();
-    enter(window, "txtdescrição_busca", product);
+    enterText(control(window, "txtdescrição_busca"), product);
     return window;
 }
 
