@@ -2,6 +2,7 @@
 #include "tests/sale/SaleCounter.h"
 #include "tests/support/KeyQueue.h"
 
+#include <QCheckBox>
 #include <QTest>
 
 /// What lies in the cart, who buys it and which rule of discount it meets, up to the moment of paying.
@@ -143,47 +144,71 @@ private slots:
 
     void picksRules()
     {
-        const QHash<QString, QString> rules{{"9", "Absoluto='1', Valor='9'"},
-                                            {"10", "Relativo='50', Valor='10'"},
-                                            {"20", "Relativo='1', Valor='20'"},
-                                            {"21", "Relativo='9', Valor='20'"},
-                                            {"25", "Absoluto='0,75', Valor='25', Condicao='2'"},
-                                            {"32", "Relativo='10'"},
-                                            {"33", "Relativo='10', Fixo=False"},
-                                            {"40", "Relativo='10', Grupo='VIP'"},
-                                            {"41", "Relativo='20', Grupo='VIP', Categoria='bebidas'"},
-                                            {"42", "Relativo='30', Grupo='ESTUDANTE', Categoria='BEBIDAS'"},
-                                            {"43", "Absoluto='2', Grupo=''"},
-                                            {"51", "Absoluto='1', AtoCadastro=True"},
-                                            {"52", "Absoluto='1', TipoVenda='1'"},
-                                            {"53", "Absoluto='1', LiberarAuto=False"},
-                                            {"54", "Absoluto='1', Valor='25,01'"}};
+        const Rule oneOffFromNine{9, "Absoluto='1', Valor='9'"};
+        const Rule halfFromTen{10, "Relativo='50', Valor='10'"};
+        const Rule onePercentFromTwenty{20, "Relativo='1', Valor='20'"};
+        const Rule ninePercentFromTwenty{21, "Relativo='9', Valor='20'"};
+        const Rule centsOffAboveTwentyFive{25, "Absoluto='0,75', Valor='25', Condicao='2'"};
+        const Rule tenPercent{32, "Relativo='10'"};
+        const Rule tenPercentByHand{33, "Relativo='10', Fixo=False"};
+        const Rule forVips{40, "Relativo='10', Grupo='VIP'"};
+        const Rule drinksForVips{41, "Relativo='20', Grupo='VIP', Categoria='bebidas'"};
+        const Rule drinksForStudents{42, "Relativo='30', Grupo='ESTUDANTE', Categoria='BEBIDAS'"};
+        const Rule forNoGroup{43, "Absoluto='2', Grupo=''"};
+        const Rule atRegistration{51, "Absoluto='1', AtoCadastro=True"};
+        const Rule onCodes{52, "Absoluto='1', TipoVenda='1'"};
+        const Rule onRequest{53, "Absoluto='1', LiberarAuto=False"};
+        const Rule fromACentMore{54, "Absoluto='1', Valor='25,01'"};
+        const Rule none{1, {}};
+
         SaleCounter counter;
         counter.change("Produtos", "Categoria='BEBIDAS'");
-        // Rules, price, the rule picked and its amount, the final total; a sixth column is a walk-in sale.
-        for (const QString line :
-             {"10 20|25|20|0,25|24,75", "10 20|20|20|0,2|19,80", "10 20|19,99|10|10|9,99", "9 10|25|10|12,5|12,50",
-              "10 20 25|25|25|0,75|24,25", "10 25|25,01|10|12,51|12,50", "20 21|25|21|2,25|22,75",
-              "32|12,25|32|1,23|11,02", "33|25|33||25,00", "10 40 41 42|25|41|5|20,00", "10 40 42|25|40|2,5|22,50",
-              "10 42|25|42|7,5|17,50", "10 40|25|10|12,5|12,50|walk-in", "10 43|25|43|2|23,00|walk-in",
-              "51 52 53 54|25|1||25,00"}) {
-            const QStringList row = line.split('|');
+        // ANA LIMA, a VIP, buys a drink.
+        const auto picks = [&](const QList<Rule> &rules, const QString &price, const Rule &picked,
+                               const QString &discount, const QString &total, const QString &buyer = "optcliente",
+                               const Place &where = Place::current()) {
             counter.cafe.execute("Delete from Descontos Where Codigo>1");
-            for (const QString &code : row[0].split(' '))
-                counter.add("Descontos", rules[code] + ", Codigo=" + code);
-            counter.change("Produtos", "Valor_Unitario='" + row[1] + "'");
-            counter.open();
-            if (row.size() > 5)
-                counter.press("optavulsa");
+            for (const Rule &rule : rules)
+                counter.add("Descontos", rule.fields + ", Codigo=" + QString::number(rule.code));
+            counter.change("Produtos", "Valor_Unitario='" + price + "'");
+            counter.open(where);
+            counter.press(buyer);
             counter.put("BALA");
-            const QStringList shown{row[0], row[1], counter.shown("txtmotivo"), counter.shown("txtvalor_desconto"),
-                                    counter.shown("lbltotal_final").mid(3)};
-            QCOMPARE(shown, row.mid(0, 5));
-            QCOMPARE(counter.at("chkdesconto").property("checked").toBool(), row[2] != "1");
-            QCOMPARE(counter.at("txtvalor_desconto").isEnabled(), row[3].isEmpty());
-        }
+            const QString shown = counter.shown("txtmotivo") + ", " + counter.shown("txtvalor_desconto") + ", " +
+                                  counter.shown("lbltotal_final");
+            require(shown == QString("%1, %2, R$ %3").arg(picked.code).arg(discount, total), shown, where);
+            require(counter.at<QCheckBox>("chkdesconto").isChecked() == (picked.code != none.code), "Tick", where);
+            require(counter.at("txtvalor_desconto").isEnabled() == discount.isEmpty(), "Amount's box", where);
+        };
+        // A rule for the very total comes first, then the one that asks for the dearest sale, then the highest share.
+        picks({halfFromTen, onePercentFromTwenty}, "25", onePercentFromTwenty, "0,25", "24,75");
+        picks({halfFromTen, onePercentFromTwenty}, "20", onePercentFromTwenty, "0,2", "19,80");
+        picks({halfFromTen, onePercentFromTwenty}, "19,99", halfFromTen, "10", "9,99");
+        picks({oneOffFromNine, halfFromTen}, "25", halfFromTen, "12,5", "12,50");
+        picks({onePercentFromTwenty, ninePercentFromTwenty}, "25", ninePercentFromTwenty, "2,25", "22,75");
+        picks({halfFromTen, onePercentFromTwenty, centsOffAboveTwentyFive}, "25", centsOffAboveTwentyFive, "0,75",
+              "24,25");
+        picks({halfFromTen, centsOffAboveTwentyFive}, "25,01", halfFromTen, "12,51", "12,50");
+        picks({tenPercent}, "12,25", tenPercent, "1,23", "11,02");
+        picks({tenPercentByHand}, "25", tenPercentByHand, "", "25,00");
+        // A rule for the buyer's group and the product's category comes first, then one for the group, then one for the
+        // category, then one for everybody.
+        picks({halfFromTen, forVips, drinksForVips, drinksForStudents}, "25", drinksForVips, "5", "20,00");
+        picks({halfFromTen, forVips, drinksForStudents}, "25", forVips, "2,5", "22,50");
+        picks({halfFromTen, drinksForStudents}, "25", drinksForStudents, "7,5", "17,50");
+        picks({halfFromTen, forVips}, "25", halfFromTen, "12,5", "12,50", "optavulsa");
+        picks({halfFromTen, forNoGroup}, "25", forNoGroup, "2", "23,00", "optavulsa");
+        picks({atRegistration, onCodes, onRequest, fromACentMore}, "25", none, "", "25,00");
     }
+
+private:
+    /// A row of `Descontos`.
+    struct Rule
+    {
+        int code;
+        QString fields;
+    };
 };
 
-QTEST_MAIN(tst_cart)
+STORY_MAIN(tst_cart)
 #include "tst_cart.moc"

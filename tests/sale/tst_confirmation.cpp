@@ -61,7 +61,8 @@ private slots:
         counter.expectNotice("MsgBox16");
         counter.press("cmdfinalizar");
         QCOMPARE(counter.cart(), QStringList{"BALA|1|10,00"});
-        QCOMPARE(counter.sold("Codigo").size() + counter.stock("BALA").toInt(), 10);
+        QCOMPARE(counter.sold("Codigo"), QStringList());
+        QCOMPARE(counter.stock("BALA"), QString("10"));
     }
 
     void sharesDiscount()
@@ -174,5 +175,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_confirmation)
+STORY_MAIN(tst_confirmation)
 #include "tst_confirmation.moc"
