@@ -1,3 +1,4 @@
+find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 # Qt tells each test its folders of test data. No test here asks for them, and they would make all headers differ.
 set_property(TARGET Qt6::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
 
@@ -20,8 +21,8 @@ endfunction()
 
 # add_room_test(NAME tst_numbers LIBRARIES platform_core): one Qt Test program out of <NAME>.cpp, run off screen.
 function(add_room_test)
-    cmake_parse_arguments(ARG "" "NAME" "SOURCES;LIBRARIES" ${ARGN})
-    add_executable(${ARG_NAME} ${ARG_NAME}.cpp ${ARG_SOURCES})
+    cmake_parse_arguments(ARG "" "NAME" "LIBRARIES" ${ARGN})
+    add_executable(${ARG_NAME} ${ARG_NAME}.cpp)
     target_include_directories(${ARG_NAME} PRIVATE ${CMAKE_SOURCE_DIR})
     target_link_libraries(${ARG_NAME} PRIVATE ${ARG_LIBRARIES} Qt6::Test strict_warnings)
     if(ARG_LIBRARIES MATCHES "^(platform|platform_core)$")

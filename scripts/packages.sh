@@ -1,21 +1,19 @@
 # Sourced by ./run and ./test: the packages of Debian 12 that each needs, and their installation.
 
-build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-svg-dev qt6-multimedia-dev libsqlcipher-dev libturbojpeg0-dev"
-program_packages="qt6-translations-l10n fonts-dejavu-core fonts-liberation gstreamer1.0-plugins-good xdg-utils"
-package_packages="dpkg-dev gzip lintian desktop-file-utils appstream man-db"
-test_packages="git clang-format clang-tidy poppler-utils zbar-tools"
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-svg-dev qt6-multimedia-dev libsqlcipher-dev libturbojpeg0-dev)
+program_packages=(qt6-translations-l10n fonts-dejavu-core fonts-liberation gstreamer1.0-plugins-good xdg-utils)
+package_packages=(dpkg-dev gzip lintian desktop-file-utils appstream man-db)
+test_packages=(git clang-format clang-tidy poppler-utils shellcheck zbar-tools)
 
 # install_packages NAME...: installs what is missing, with sudo when not root.
 install_packages() {
-    missing=""
+    local package missing=() as_root=()
     for package in "$@"; do
-        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing="$missing $package"
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
     done
-    [ -n "$missing" ] || return 0
-    echo "Installing:$missing"
-    as_root=""
-    [ "$(id -u)" -eq 0 ] || as_root="sudo"
-    $as_root apt-get update -qq
-    # shellcheck disable=SC2086
-    $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null
+    [ ${#missing[@]} -gt 0 ] || return 0
+    echo "Installing: ${missing[*]}"
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }

@@ -1,6 +1,7 @@
 #include "checkout/ReceiptOptions.h"
 
 #include "checkout/frmconfig_recibo.h"
+#include "platform/window/Form.h"
 #include "platform/window/Forms.h"
 #include "platform/window/Label.h"
 

@@ -7,6 +7,7 @@
 #include "configuration/Idiomas.h"
 #include "data/FirstRow.h"
 #include "data/Funcoes.h"
+#include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"

@@ -13,6 +13,7 @@
 #include "configuration/Globais.h"
 #include "data/FirstRow.h"
 #include "data/Funcoes.h"
+#include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/text/Dates.h"
 #include "platform/window/BoxKeys.h"

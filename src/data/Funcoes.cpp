@@ -10,6 +10,7 @@
 #include "platform/media/Sound.h"
 #include "platform/print/Printer.h"
 #include "platform/text/Numbers.h"
+#include "platform/window/Form.h"
 #include "platform/window/Forms.h"
 #include "platform/window/KeyCodes.h"
 

@@ -1,7 +1,9 @@
 #include "products/CategoryEditing.h"
 
+#include "data/Acesso_BD.h"
 #include "data/FirstRow.h"
 #include "data/Funcoes.h"
+#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Look.h"
 #include "platform/window/Prompts.h"

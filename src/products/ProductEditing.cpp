@@ -1,6 +1,8 @@
 #include "products/ProductEditing.h"
 
+#include "data/Acesso_BD.h"
 #include "data/FirstRow.h"
+#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Look.h"
 #include "platform/window/Prompts.h"

@@ -3,6 +3,7 @@
 #include "checkout/Amounts.h"
 #include "checkout/SaleDiscount.h"
 #include "configuration/Globais.h"
+#include "data/Acesso_BD.h"
 #include "data/FirstRow.h"
 #include "data/Funcoes.h"
 #include "data/Placeholders.h"

@@ -2,7 +2,9 @@
 
 #include "checkout/SaleDiscount.h"
 #include "customers/CustomerColumns.h"
+#include "data/Acesso_BD.h"
 #include "data/FirstRow.h"
+#include "platform/base/Err.h"
 #include "platform/base/LongWork.h"
 #include "platform/window/Forms.h"
 #include "platform/window/KeyCodes.h"

@@ -2,10 +2,13 @@
 
 #include "checkout/SaleDiscount.h"
 #include "configuration/Globais.h"
+#include "data/Acesso_BD.h"
 #include "data/FirstRow.h"
 #include "data/Placeholders.h"
+#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
+#include "platform/window/Forms.h"
 #include "platform/window/Look.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"

@@ -4,6 +4,7 @@
 #include "platform/files/Paths.h"
 #include "platform/files/SafeFile.h"
 #include "platform/jet/OpenFile.h"
+#include "platform/jet/engine/Engine.h"
 
 #include <QFileInfo>
 #include <QHash>
