@@ -10,9 +10,11 @@ namespace {
 /// The engine takes no more than 999 parameters in a statement; a few lists must fit beside other literals.
 constexpr std::size_t longestParameterList = 100;
 
-constexpr std::array<const char *, 10> operators = {"=", "<>", "<", "<=", ">", ">=", "+", "-", "*", "/"};
-constexpr std::array<const char *, 7> functions = {
+constexpr std::array operators{"=", "<>", "<", "<=", ">", ">=", "+", "-", "*", "/"};
+static_assert(operators.size() == static_cast<std::size_t>(Operator::Divide) + 1);
+constexpr std::array functions{
     SqlCipherNames::Cdbl, SqlCipherNames::Val, SqlCipherNames::Cstr, "max", "min", "count", "count(*)"};
+static_assert(functions.size() == static_cast<std::size_t>(Function::CountRows) + 1);
 
 const char *textOf(Operator op)
 {
