@@ -4,7 +4,7 @@
 #include "configuration/Globais.h"
 #include "configuration/Idiomas.h"
 #include "data/Acesso_BD.h"
-#include "data/Funcoes.h"
+#include "windows/OpenForms.h"
 
 Program::Program(const QString &cafe)
 {

@@ -1,3 +1,4 @@
+#include "configuration/PointerFile.h"
 #include "platform/window/Application.h"
 #include "platform/window/Forms.h"
 #include "shell/frmprincipal.h"
@@ -25,6 +26,7 @@ public:
 int main(int argc, char **argv)
 {
     const Application application(argc, argv);
+    followPointerFile();
     auto &main = Forms::use<frmprincipal>();
     Watch watch;
     main.findChild<QPushButton *>("cmdvendaprod")->installEventFilter(&watch);

@@ -1,10 +1,10 @@
 #include "cafe/Cafe.h"
 
+#include "configuration/PointerFile.h"
 #include "data/Esquema.h"
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
 #include "platform/files/Paths.h"
-#include "platform/files/PointerFile.h"
 #include "platform/jet/DBEngine.h"
 #include "platform/text/Numbers.h"
 

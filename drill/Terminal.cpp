@@ -1,13 +1,13 @@
 #include "drill/Terminal.h"
 
 #include "configuration/Idiomas.h"
-#include "data/Funcoes.h"
 #include "platform/base/Machine.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Forms.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/Controls.h"
 #include "tests/support/Willing.h"
+#include "windows/OpenForms.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>

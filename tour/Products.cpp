@@ -1,10 +1,10 @@
 #include "tour/Products.h"
 
-#include "data/Funcoes.h"
 #include "platform/window/Forms.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/PdfText.h"
 #include "tour/ListDesk.h"
+#include "windows/OpenForms.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>

@@ -2,7 +2,6 @@
 
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
-#include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
 #include "platform/print/Printer.h"
 

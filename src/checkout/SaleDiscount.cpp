@@ -1,12 +1,12 @@
 #include "checkout/SaleDiscount.h"
 
 #include "checkout/Amounts.h"
+#include "checkout/DiscountRules.h"
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Idiomas.h"
-#include "data/Acesso_BD.h"
-#include "data/Funcoes.h"
 #include "data/Placeholders.h"
+#include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/ComboBox.h"
@@ -14,6 +14,7 @@
 #include "platform/window/Pictures.h"
 #include "platform/window/Prompts.h"
 #include "platform/window/TextBox.h"
+#include "windows/NumberKeys.h"
 
 #include <QCheckBox>
 
@@ -46,18 +47,15 @@ SaleDiscount::SaleDiscount(const Controls &controls, const Texts &texts, QObject
 void SaleDiscount::Listar_Motivos_Descontos()
 {
     const QString standard = Ler_INI(caminhoConfig(), "Descontos", "Padrao").toUpper();
-    Abrir_Banco_Principal();
-    RecordsetHandle rs;
-    Abrir_Recordset(rs, BancoPrincipal, QString("Select * from Descontos Where Codigo>0") + " Order By Codigo");
-    for (; rs && !rs->Eof(); rs->MoveNext())
-        OnErrorResumeNext([&] { ui.txtmotivo->addItem(rs->Fields("Codigo").text()); },
+    forEachRow("Select * from Descontos Where Codigo>0 Order By Codigo", [&](const Recordset &rs) {
+        OnErrorResumeNext([&] { ui.txtmotivo->addItem(rs.Fields("Codigo").text()); },
                           [&] {
-                              const QString motive = rs->Fields("Motivo_Desconto").text();
+                              const QString motive = rs.Fields("Motivo_Desconto").text();
                               ui.txtmotivo->setNote(ui.txtmotivo->count() - 1, motive);
                               if (motive.toUpper() == standard)
                                   m_defaultMotive = ui.txtmotivo->count() - 1;
                           });
-    Fechar_Recordset(rs);
+    });
     ui.txtmotivo->setCurrentIndex(m_defaultMotive);
     txtmotivo_Click();
 }
@@ -84,13 +82,10 @@ bool SaleDiscount::pickRule(const QString &sql)
 {
     QString code;
     OnErrorResumeNext([&] {
-        Abrir_Banco_Principal();
-        RecordsetHandle rs;
-        rs = Abrir_Recordset(rs, BancoPrincipal, sql);
-        for (; rs && !rs->Eof() && code.isEmpty(); rs->MoveNext())
-            if (isAboveZero(*rs, "Relativo") || isAboveZero(*rs, "Absoluto"))
-                code = rs->Fields("Codigo").text();
-        Fechar_Recordset(rs);
+        OrRaise::forEachRow(sql, [&](const Recordset &rs) {
+            if (code.isEmpty() && (isAboveZero(rs, "Relativo") || isAboveZero(rs, "Absoluto")))
+                code = rs.Fields("Codigo").text();
+        });
     });
     if (code.isEmpty())
         return false;
@@ -109,14 +104,8 @@ void SaleDiscount::Validar_Motivo(quint8 codigo, QString &motivo) const
         motivo = Placeholder::NoMotive;
         return;
     }
-    OnErrorResumeNext([&] {
-        Abrir_Banco_Principal();
-        RecordsetHandle rs;
-        rs = Abrir_Recordset(rs, BancoPrincipal, "Select * from Descontos Where Codigo=" + QString::number(codigo));
-        if (rs && !rs->Eof())
-            motivo = rs->Fields("Motivo_Desconto").text();
-        Fechar_Recordset(rs);
-    });
+    readFirstRow("Select * from Descontos Where Codigo=" + QString::number(codigo),
+                 [&](const Recordset &rs) { motivo = rs.Fields("Motivo_Desconto").text(); });
 }
 
 QString SaleDiscount::chosenMotive() const

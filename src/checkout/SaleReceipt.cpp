@@ -5,10 +5,10 @@
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
 #include "configuration/Idiomas.h"
-#include "data/FirstRow.h"
-#include "data/Funcoes.h"
+#include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
+#include "platform/print/PageScale.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
 

@@ -2,10 +2,11 @@
 
 #include "codes/LabelSheet.h"
 #include "codes/frmetiquetas.h"
-#include "data/Funcoes.h"
 #include "platform/base/Err.h"
+#include "platform/print/PageScale.h"
 #include "platform/print/Printer.h"
 #include "platform/window/Forms.h"
+#include "windows/OpenForms.h"
 
 namespace {
 constexpr int moduleTwips = 18;

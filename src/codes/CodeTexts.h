@@ -1,5 +1,5 @@
 #pragma once
 
-#include "configuration/WindowTexts.h"
+#include "windows/WindowTexts.h"
 
 inline constexpr WindowTexts codeTexts("frmcodigo_rapido", "MsgBox1_2");

@@ -1,7 +1,7 @@
 #include "codes/LabelSheet.h"
 
 #include "codes/AllCodes.h"
-#include "data/Funcoes.h"
+#include "platform/print/PageScale.h"
 #include "platform/print/Printer.h"
 
 namespace {

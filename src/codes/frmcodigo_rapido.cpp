@@ -11,13 +11,14 @@
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
-#include "data/FirstRow.h"
-#include "data/Funcoes.h"
+#include "data/Lookups.h"
+#include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/text/Dates.h"
 #include "platform/window/BoxKeys.h"
 #include "ui_frmcodigo_rapido.h"
+#include "windows/NumberKeys.h"
 
 frmcodigo_rapido::frmcodigo_rapido() : ui(std::make_unique<Ui::frmcodigo_rapido>())
 {

@@ -1,8 +1,8 @@
 #include "codes/frmetiquetas.h"
 
-#include "configuration/WindowTexts.h"
 #include "platform/window/BoxKeys.h"
 #include "ui_frmetiquetas.h"
+#include "windows/WindowTexts.h"
 
 namespace {
 constexpr WindowTexts texts("frmetiquetas", "MsgBox1_2");

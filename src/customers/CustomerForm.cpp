@@ -4,15 +4,17 @@
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
 #include "customers/CustomerTexts.h"
-#include "data/FirstRow.h"
-#include "data/Funcoes.h"
 #include "data/Placeholders.h"
+#include "data/Queries.h"
+#include "data/Statements.h"
+#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
 #include "ui_frmcadastro_clientes.h"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 const QString emptyDate = "  /  /    ";
@@ -96,14 +98,16 @@ void CustomerForm::Selecionar_Grupo_Padrao()
     standard = standard.toUpper();
     Gravar_INI(caminhoConfig(), "Grupo Clientes", "Padrao", standard);
 
-    readFirstRow("Select * from Grupo_Clientes Order By Grupo", [&](Recordset &rs) {
-        groups.clear();
-        for (; !rs.Eof(); rs.MoveNext()) {
+    bool empty = true;
+    OnErrorResumeNext([&] {
+        OrRaise::forEachRow("Select * from Grupo_Clientes Order By Grupo", [&](const Recordset &rs) {
+            if (std::exchange(empty, false))
+                groups.clear();
             const QString group = rs.Fields("Grupo").text().toUpper();
             groups.addItem(group);
             if (group == standard)
                 standard = Cstr(groups.count());
-        }
+        });
     });
     // A group that was not found and whose name is a number is taken for a position, and that stays.
     if (IsNumeric(standard) && Cdbl(standard) <= groups.count())

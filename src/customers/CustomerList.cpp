@@ -4,6 +4,7 @@
 #include "customers/CustomerState.h"
 #include "customers/CustomerTexts.h"
 #include "data/Acesso_BD.h"
+#include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/base/LongWork.h"
 #include "platform/text/Numbers.h"
@@ -14,6 +15,7 @@
 
 #include <array>
 #include <limits>
+#include <utility>
 
 namespace {
 constexpr QSize arrowSize(12, 12);
@@ -49,7 +51,6 @@ void CustomerList::Ordenar_Tabela(const QString &campo)
 void CustomerList::load(const QString &campo)
 {
     FlexGrid &grid = *ui.tab_clientes;
-    RecordsetHandle rs;
     const LongWork work;
     OnErrorGoToEnd([&] {
         Abrir_Banco_Principal();
@@ -62,24 +63,24 @@ void CustomerList::load(const QString &campo)
         grid.setCols(CustomerColumn::Count);
         grid.setRows(1);
 
-        Abrir_Recordset(rs, BancoPrincipal, "Select Count(*) from Clientes");
-        const int count = rs ? static_cast<int>(rs->Fields(0).number()) : 0;
-        Abrir_Recordset(rs, BancoPrincipal,
-                        "Select Codigo,Nome,Nick,Grupo,Data_Nasc,Obs,Autorizado from Clientes Order By " + campo);
-        if (!rs)
-            return;
-        if (rs->Eof()) {
-            // The number of an emptied list is not reset, and that stays: the next customer is counted on top of it.
-            for (Label *label : {ui.lbltotal_clientes, ui.Lblsombraclientes})
-                label->setCaption(customerTexts.loaded("String7"));
-            return;
-        }
-        m_state.TotalClientes = 0;
-        grid.setRows(count + 1);
-        fill(*rs);
-        showCount(m_state.TotalClientes == 1);
+        int count = 0;
+        readFirstRow("Select Count(*) from Clientes",
+                     [&](const Recordset &rs) { count = static_cast<int>(rs.Fields(0).number()); });
+        bool anyone = false;
+        OrRaise::forEachRow("Select Codigo,Nome,Nick,Grupo,Data_Nasc,Obs,Autorizado from Clientes Order By " + campo,
+                            [&](const Recordset &rs) {
+                                if (!std::exchange(anyone, true)) {
+                                    m_state.TotalClientes = 0;
+                                    grid.setRows(count + 1);
+                                }
+                                showRow(rs);
+                            });
+        if (anyone)
+            return showCount(m_state.TotalClientes == 1);
+        // The number of an emptied list is not reset, and that stays: the next customer is counted on top of it.
+        for (Label *label : {ui.lbltotal_clientes, ui.Lblsombraclientes})
+            label->setCaption(customerTexts.loaded("String7"));
     });
-    Fechar_Recordset(rs);
     Fechar_Recordsets_Globais();
 }
 
@@ -90,19 +91,17 @@ void CustomerList::countOne()
     ++m_state.TotalClientes;
 }
 
-void CustomerList::fill(Recordset &rs)
+void CustomerList::showRow(const Recordset &rs)
 {
     FlexGrid &grid = *ui.tab_clientes;
-    for (; !rs.Eof(); rs.MoveNext()) {
-        countOne();
-        for (int column = 0; column < CustomerColumn::Authorised; ++column)
-            grid.setTextMatrix(m_state.TotalClientes, column, rs.Fields(column).text());
-        const FieldValue authorised = rs.Fields(CustomerColumn::Authorised);
-        grid.setTextMatrix(m_state.TotalClientes, CustomerColumn::Authorised,
-                           authorisation(!authorised.isNull() && authorised.boolean()));
-        DoEvents();
-        LongWork::goOn();
-    }
+    countOne();
+    for (int column = 0; column < CustomerColumn::Authorised; ++column)
+        grid.setTextMatrix(m_state.TotalClientes, column, rs.Fields(column).text());
+    const FieldValue authorised = rs.Fields(CustomerColumn::Authorised);
+    grid.setTextMatrix(m_state.TotalClientes, CustomerColumn::Authorised,
+                       authorisation(!authorised.isNull() && authorised.boolean()));
+    DoEvents();
+    LongWork::goOn();
 }
 
 void CustomerList::showCount(bool single)

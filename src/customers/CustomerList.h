@@ -40,7 +40,7 @@ public:
 private:
     void load(const QString &campo);
     void countOne();
-    void fill(Recordset &rs);
+    void showRow(const Recordset &rs);
     void showCount(bool single);
     void cmdordenar_Click();
     void cmdbusca_Click();

@@ -6,7 +6,7 @@
 #include "customers/CustomerColumns.h"
 #include "customers/CustomerState.h"
 #include "customers/CustomerTexts.h"
-#include "data/Acesso_BD.h"
+#include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/base/LongWork.h"
 #include "platform/window/FlexGrid.h"

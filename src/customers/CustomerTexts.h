@@ -1,5 +1,5 @@
 #pragma once
 
-#include "configuration/WindowTexts.h"
+#include "windows/WindowTexts.h"
 
 inline constexpr WindowTexts customerTexts("frmcadastro_clientes", "MsgBox1_2");

@@ -1,7 +1,7 @@
 #include "customers/CustomerUniqueness.h"
 
 #include "customers/CustomerTexts.h"
-#include "data/FirstRow.h"
+#include "data/Queries.h"
 #include "ui_frmcadastro_clientes.h"
 
 namespace {

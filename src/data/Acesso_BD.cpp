@@ -4,7 +4,6 @@
 #include "configuration/Globais.h"
 #include "platform/base/Err.h"
 #include "platform/files/Paths.h"
-#include "platform/files/TextOutput.h"
 #include "platform/jet/DBEngine.h"
 
 #include <algorithm>
@@ -58,14 +57,6 @@ bool prepareQuery(RecordsetHandle &target, DatabaseHandle &database)
     Abrir_BD(CaminhoBD, 0, 3, textoConexao(), database);
     return false;
 }
-
-Database &openBanco()
-{
-    Abrir_Banco_Principal();
-    if (!BancoPrincipal)
-        throw RunTimeError(ErrorNumber::ObjectNotSet, "The data file is not open.");
-    return *BancoPrincipal;
-}
 } // namespace
 
 QString textoConexao()
@@ -96,19 +87,12 @@ void Abrir_Banco_Principal()
     Abrir_BD(CaminhoBD, 0, 3, textoConexao(), BancoPrincipal);
 }
 
-void executeStatement(const QString &sql)
+Database &mainDatabase()
 {
-    openBanco().Execute(sql);
-}
-
-RecordsetHandle openQuery(const QString &sql)
-{
-    return openBanco().OpenRecordset(sql, dbOpenForwardOnly, dbSeeChanges);
-}
-
-QString quoted(const QString &text)
-{
-    return "'" + text + "'";
+    Abrir_Banco_Principal();
+    if (!BancoPrincipal)
+        throw RunTimeError(ErrorNumber::ObjectNotSet, "The data file is not open.");
+    return *BancoPrincipal;
 }
 
 RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int, int)
@@ -176,10 +160,4 @@ QString Extrair_Pasta(const QString &path)
     while (!folder.isEmpty() && isSeparator(folder.back()))
         folder.chop(1);
     return folder;
-}
-
-void Linhas_Em_Branco(int count, TextOutput &file)
-{
-    for (int line = 0; line < count; ++line)
-        OnErrorResumeNext([&] { file.Print(); });
 }

@@ -4,8 +4,6 @@
 
 #include <QString>
 
-class TextOutput;
-
 /// The program-wide database, opened by its first user and closed only at the end of the program.
 extern DatabaseHandle BancoPrincipal;
 /// The three program-wide recordsets, which the end of the program closes.
@@ -23,14 +21,8 @@ DatabaseHandle Abrir_BD(QString &path, int, int, const QString &connect, Databas
 /// Opens the main handle at `CaminhoBD` when it is empty.
 void Abrir_Banco_Principal();
 
-/// Runs a writing statement on the main handle. Raises when it fails, and when no file is open.
-void executeStatement(const QString &sql);
-
-/// Runs a query on the main handle, to be read forward. Raises when it fails, and when no file is open.
-RecordsetHandle openQuery(const QString &sql);
-
-/// A text as a value of a statement. An apostrophe within it breaks the statement.
-QString quoted(const QString &text);
+/// The database behind the main handle, opened at need. Raises when it can't be opened.
+Database &mainDatabase();
 
 /// Closes the target first, opens an empty handle, and runs a query to be read forward; empty on failure.
 RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int = 2,
@@ -47,6 +39,3 @@ bool Existe_Tabela(const QString &name);
 
 /// Folder of a path, without trailing separator.
 QString Extrair_Pasta(const QString &path);
-
-/// Writes empty lines to an open text file; none for a count below 1.
-void Linhas_Em_Branco(int count, TextOutput &file);

@@ -1,7 +1,8 @@
 #include "products/ProductEditing.h"
 
+#include "categories/CategoryOfSales.h"
 #include "data/Acesso_BD.h"
-#include "data/FirstRow.h"
+#include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Look.h"
@@ -14,7 +15,6 @@
 #include "products/ProductStatements.h"
 #include "products/ProductTexts.h"
 #include "products/ProductUniqueness.h"
-#include "products/SoldProducts.h"
 #include "ui_frmcadastro_produtos.h"
 
 ProductEditing::ProductEditing(Ui::frmcadastro_produtos &window, ProductState &state, ProductForm &form,
@@ -58,8 +58,8 @@ bool ProductEditing::save()
     product.Servico = m_state.Servico_Produto;
     const auto execute = [](const QString &sql) { OnErrorResumeNext([&] { executeStatement(sql); }); };
     execute(updateStatement(product, m_state.CodigoEditado));
-    updateSoldProducts("Categoria = '" + product.Categoria + "' Where Descrição = '" + product.Descrição + "'",
-                       execute);
+    updateCategoryOfSales("Categoria = '" + product.Categoria + "' Where Descrição = '" + product.Descrição + "'",
+                          execute);
     OnErrorResumeNext([&] { m_list.showProduct(m_state.LinhaEditada, product); });
     // Not after a no: then the supplier stays locked until the reserved product is saved. It stays.
     if (m_state.CodigoEditado == reservedProduct)

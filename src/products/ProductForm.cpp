@@ -1,15 +1,16 @@
 #include "products/ProductForm.h"
 
 #include "checkout/Amounts.h"
-#include "data/Acesso_BD.h"
-#include "data/Funcoes.h"
 #include "data/Placeholders.h"
+#include "data/Queries.h"
+#include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
 #include "products/ProductRecord.h"
 #include "products/ProductTexts.h"
 #include "ui_frmcadastro_produtos.h"
+#include "windows/NumberKeys.h"
 
 namespace {
 /// A price box after a save: a mask's digits without its separator, which count as no price.
@@ -91,13 +92,10 @@ void ProductForm::listCategories(const QString &standard)
 {
     ComboBox &categories = *ui.cmbcategoria;
     categories.clear();
-    RecordsetHandle rs;
-    Abrir_Recordset(rs, BancoPrincipal, "Select * from Categoria Order By Nome");
     OnErrorResumeNext([&] {
-        for (; rs && !rs->Eof(); rs->MoveNext())
-            categories.addItem(rs->Fields("Nome").text());
+        OrRaise::forEachRow("Select * from Categoria Order By Nome",
+                            [&](const Recordset &rs) { categories.addItem(rs.Fields("Nome").text()); });
     });
-    Fechar_Recordset(rs);
     const int found = categories.findText(standard, Qt::MatchFixedString);
     categories.setText(found < 0 ? QString() : categories.itemText(found));
 }

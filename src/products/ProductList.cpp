@@ -1,18 +1,18 @@
 #include "products/ProductList.h"
 
 #include "configuration/Globais.h"
-#include "data/Acesso_BD.h"
+#include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/base/LongWork.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
 #include "platform/window/Pictures.h"
-#include "products/ListTotal.h"
 #include "products/ProductColumns.h"
 #include "products/ProductRecord.h"
 #include "products/ProductState.h"
 #include "products/ProductTexts.h"
 #include "ui_frmcadastro_produtos.h"
+#include "windows/ListTotal.h"
 
 #include <array>
 
@@ -74,12 +74,7 @@ void ProductList::load()
         grid.setRows(1);
         m_state.Total_Produtos = 0;
 
-        const LongWork work;
-        RecordsetHandle rs;
-        Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Order By Descrição");
-        if (rs)
-            fill(*rs);
-        Fechar_Recordset(rs);
+        fill();
         grid.setRows(m_state.Total_Produtos + 1);
         grid.setRow(0);
     });
@@ -87,8 +82,9 @@ void ProductList::load()
     showCount();
 }
 
-void ProductList::fill(Recordset &rs)
+void ProductList::fill()
 {
+    const LongWork work;
     FlexGrid &grid = *ui.tab_produtos;
     // Asked once, not for every row.
     const QString inMenu = menuText(true);
@@ -102,12 +98,11 @@ void ProductList::fill(Recordset &rs)
                             ListedField{"Estoque_Min", ProductColumn::MinimumStock}};
     const QString servico = "Servico";
     const QString cardapio = "Cardapio";
-    const auto isTrue = [&rs](const QString &field) {
-        return !rs.Fields(field).isNull() && rs.Fields(field).boolean();
-    };
-
-    for (; !rs.Eof(); rs.MoveNext()) {
+    forEachRow("Select * from Produtos Order By Descrição", [&](const Recordset &rs) {
         LongWork::goOn();
+        const auto isTrue = [&rs](const QString &field) {
+            return !rs.Fields(field).isNull() && rs.Fields(field).boolean();
+        };
         const int row = ++m_state.Total_Produtos;
         // In leaps, because each growth is told to the view.
         if (row >= grid.Rows())
@@ -123,7 +118,7 @@ void ProductList::fill(Recordset &rs)
         for (const ListedField &each : stocks)
             show(each.column, [&] { return isService ? none : rs.Fields(each.name).text(); });
         show(ProductColumn::Menu, [&] { return isTrue(cardapio) ? inMenu : notInMenu; });
-    }
+    });
 }
 
 void ProductList::showCount()

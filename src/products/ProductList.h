@@ -4,7 +4,6 @@
 
 struct ProductRecord;
 struct ProductState;
-class Recordset;
 namespace Ui {
 class frmcadastro_produtos;
 }
@@ -31,7 +30,7 @@ public:
     void showMenuFlag(bool inMenu);
 
 private:
-    void fill(Recordset &rs);
+    void fill();
     void showCount();
     void cmdbuscar_Click();
     void tab_produtos_Click();

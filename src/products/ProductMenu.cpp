@@ -1,6 +1,6 @@
 #include "products/ProductMenu.h"
 
-#include "data/Acesso_BD.h"
+#include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/window/Prompts.h"
 #include "products/ProductList.h"

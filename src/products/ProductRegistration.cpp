@@ -1,7 +1,8 @@
 #include "products/ProductRegistration.h"
 
 #include "data/Acesso_BD.h"
-#include "data/FirstRow.h"
+#include "data/Queries.h"
+#include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "products/ProductForm.h"
 #include "products/ProductList.h"

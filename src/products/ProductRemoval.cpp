@@ -1,6 +1,6 @@
 #include "products/ProductRemoval.h"
 
-#include "data/Acesso_BD.h"
+#include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/base/LongWork.h"
 #include "platform/text/Numbers.h"

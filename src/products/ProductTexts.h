@@ -1,5 +1,5 @@
 #pragma once
 
-#include "configuration/WindowTexts.h"
+#include "windows/WindowTexts.h"
 
 inline constexpr WindowTexts productTexts("frmcadastro_produtos", "MsgBox1_2");

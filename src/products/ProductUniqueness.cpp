@@ -1,7 +1,7 @@
 #include "products/ProductUniqueness.h"
 
-#include "data/FirstRow.h"
 #include "data/Placeholders.h"
+#include "data/Queries.h"
 #include "products/ProductTexts.h"
 #include "ui_frmcadastro_produtos.h"
 

@@ -1,9 +1,9 @@
 #include "products/frmcadastro_produtos.h"
 
+#include "categories/DefaultCategory.h"
+#include "categories/frmcadastro_categoria.h"
 #include "data/Acesso_BD.h"
-#include "data/Funcoes.h"
 #include "platform/window/Forms.h"
-#include "products/DefaultCategory.h"
 #include "products/ProductEditing.h"
 #include "products/ProductForm.h"
 #include "products/ProductList.h"
@@ -12,8 +12,8 @@
 #include "products/ProductRegistration.h"
 #include "products/ProductRemoval.h"
 #include "products/ProductTexts.h"
-#include "products/frmcadastro_categoria.h"
 #include "ui_frmcadastro_produtos.h"
+#include "windows/OpenForms.h"
 
 frmcadastro_produtos::frmcadastro_produtos() : ui(std::make_unique<Ui::frmcadastro_produtos>())
 {

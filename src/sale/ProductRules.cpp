@@ -1,7 +1,7 @@
 #include "sale/ProductRules.h"
 
 #include "checkout/SaleDiscount.h"
-#include "data/Acesso_BD.h"
+#include "data/Queries.h"
 
 QStringList productRuleConditions(const QString &group, const QString &category)
 {
@@ -15,14 +15,9 @@ QStringList productRuleConditions(const QString &group, const QString &category)
 
 void TemDescontoAutomatico(const QString &categoria, bool &resposta)
 {
-    Abrir_Banco_Principal();
-    RecordsetHandle rs;
     // The AND that is missing before Categoria stays missing: the answer is false every time, and sales that attendants
     // have always been able to make would be refused otherwise.
-    rs = Abrir_Recordset(rs, BancoPrincipal,
-                         "Select Codigo,Fixo,Relativo,Absoluto,Grupo, Categoria, AtoCadastro, Valor, TipoVenda From "
-                         "Descontos Where LiberarAuto = True Categoria='" +
-                             categoria + "' AND AtoCadastro = False AND TipoVenda='2' " + SaleDiscount::ruleOrder());
-    resposta = rs && !rs->Eof();
-    Fechar_Recordset(rs);
+    resposta = hasRow("Select Codigo,Fixo,Relativo,Absoluto,Grupo, Categoria, AtoCadastro, Valor, TipoVenda From "
+                      "Descontos Where LiberarAuto = True Categoria='" +
+                      categoria + "' AND AtoCadastro = False AND TipoVenda='2' " + SaleDiscount::ruleOrder());
 }

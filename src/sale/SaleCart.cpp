@@ -2,7 +2,7 @@
 
 #include "checkout/Amounts.h"
 #include "checkout/SaleDiscount.h"
-#include "data/Acesso_BD.h"
+#include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
@@ -79,44 +79,40 @@ void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
         OnErrorResumeNext([&] { before = Cdbl(grid.TextMatrix(row, CartColumn::Quantity)); });
     quantidade += before;
 
-    Abrir_Banco_Principal();
-    RecordsetHandle rs;
-    rs = Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Where Descrição='" + descricao.toUpper() + "'");
-    if (!rs || rs->Eof())
-        return;
-    bool service = false;
-    OnErrorResumeNext([&] { service = rs->Fields("Servico").boolean(); });
-    // A stock that is no number counts as too small, since the failure goes on inside the test.
-    bool enough = false;
-    OnErrorResumeNext([&] { enough = rs->Fields("Quantidade").number() - quantidade >= 0; });
-    if (!service && !enough) {
-        QString stock;
-        OnErrorResumeNext([&] { stock = rs->Fields("Quantidade").text(); });
-        refuse(descricao, quantidade, stock);
-        return;
-    }
+    readFirstRow("Select * from Produtos Where Descrição='" + descricao.toUpper() + "'", [&](const Recordset &rs) {
+        bool service = false;
+        OnErrorResumeNext([&] { service = rs.Fields("Servico").boolean(); });
+        // A stock that is no number counts as too small, since the failure goes on inside the test.
+        bool enough = false;
+        OnErrorResumeNext([&] { enough = rs.Fields("Quantidade").number() - quantidade >= 0; });
+        if (!service && !enough) {
+            QString stock;
+            OnErrorResumeNext([&] { stock = rs.Fields("Quantidade").text(); });
+            refuse(descricao, quantidade, stock);
+            return;
+        }
 
-    if (row == 0) {
-        row = grid.Rows();
-        addRow();
-        grid.setTopRow(row);
-    }
-    grid.setTextMatrix(row, CartColumn::Description, descricao.toUpper());
-    grid.setTextMatrix(row, CartColumn::Quantity, Cstr(quantidade));
-    // A price that is no number leaves the line without a value and the total as it was.
-    OnErrorResumeNext(
-        [&] {
-            const double price = rs->Fields("Valor_Unitario").number();
-            grid.setTextMatrix(row, CartColumn::Value, amountText(price * quantidade));
-        },
-        // The total grows by the rounded value of the added part, the line is worked out from the whole quantity: with
-        // three decimals in a price the two may differ by a cent, and that stays.
-        [&] {
-            const double price = rs->Fields("Valor_Unitario").number();
-            m_discount.Total_Venda += shownAmount(price * (quantidade - before));
-        });
-    Fechar_Recordset(rs);
-    showTotal();
+        if (row == 0) {
+            row = grid.Rows();
+            addRow();
+            grid.setTopRow(row);
+        }
+        grid.setTextMatrix(row, CartColumn::Description, descricao.toUpper());
+        grid.setTextMatrix(row, CartColumn::Quantity, Cstr(quantidade));
+        // A price that is no number leaves the line without a value and the total as it was.
+        OnErrorResumeNext(
+            [&] {
+                const double price = rs.Fields("Valor_Unitario").number();
+                grid.setTextMatrix(row, CartColumn::Value, amountText(price * quantidade));
+            },
+            // The total grows by the rounded value of the added part, the line is worked out from the whole quantity:
+            // with three decimals in a price the two may differ by a cent, and that stays.
+            [&] {
+                const double price = rs.Fields("Valor_Unitario").number();
+                m_discount.Total_Venda += shownAmount(price * (quantidade - before));
+            });
+        showTotal();
+    });
 }
 
 void SaleCart::addRow()

@@ -3,7 +3,7 @@
 #include "checkout/SaleDiscount.h"
 #include "customers/CustomerColumns.h"
 #include "data/Acesso_BD.h"
-#include "data/FirstRow.h"
+#include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/base/LongWork.h"
 #include "platform/window/Forms.h"
@@ -56,7 +56,6 @@ void SaleCustomers::fill()
 {
     FlexGrid &grid = *ui.tab_clientes;
     const LongWork work;
-    Abrir_Banco_Principal();
     const QString picked = grid.Row() > 0 ? grid.TextMatrix(grid.Row(), CustomerColumn::Codigo) : QString();
     grid.Clear();
     grid.setFormatString("<          |<" + saleTexts.text("tab_clientes1") + "|<" + saleTexts.text("tab_clientes2"));
@@ -66,23 +65,23 @@ void SaleCustomers::fill()
     int count = 0;
     readFirstRow("Select Count(*) from Clientes",
                  [&](const Recordset &rs) { count = static_cast<int>(rs.Fields(0).number()); });
-    RecordsetHandle rs;
-    Abrir_Recordset(rs, BancoPrincipal, "Select * from Clientes Order By Nome");
-    if (rs && !rs->Eof())
-        grid.setRows(count + 1);
     const std::array fields{std::pair(CustomerColumn::Codigo, QString("Codigo")),
                             std::pair(CustomerColumn::Name, QString("Nome")),
                             std::pair(CustomerColumn::Nick, QString("Nick"))};
     // Another terminal may have registered a customer since the count; the list holds those that were counted.
-    for (int row = 1; rs && !rs->Eof() && row <= count; rs->MoveNext(), ++row) {
+    int row = 0;
+    forEachRow("Select * from Clientes Order By Nome", [&](const Recordset &rs) {
+        if (++row == 1)
+            grid.setRows(count + 1);
+        if (row > count)
+            return;
         LongWork::goOn();
         for (const auto &each : fields)
-            OnErrorResumeNext([&] { grid.setTextMatrix(row, each.first, rs->Fields(each.second).text()); });
+            OnErrorResumeNext([&] { grid.setTextMatrix(row, each.first, rs.Fields(each.second).text()); });
         // A visit to the customers' window leaves the buyer the same person, under another name, too.
         if (grid.TextMatrix(row, CustomerColumn::Codigo) == picked)
             grid.setRow(row);
-    }
-    Fechar_Recordset(rs);
+    });
 }
 
 bool SaleCustomers::Buscar_Cliente(const QString &termo, int inicio)

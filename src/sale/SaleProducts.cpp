@@ -3,8 +3,8 @@
 #include "checkout/SaleDiscount.h"
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
-#include "data/FirstRow.h"
 #include "data/Placeholders.h"
+#include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
@@ -63,20 +63,16 @@ SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, Q
 void SaleProducts::Listar_Produtos()
 {
     ui.cmbprodutos->clear();
-    Abrir_Banco_Principal();
-    RecordsetHandle rs;
-    Abrir_Recordset(rs, BancoPrincipal, "Select * from Produtos Where Codigo <> 1 Order By Descrição");
     QStringList entries;
-    for (; rs && !rs->Eof(); rs->MoveNext()) {
+    forEachRow("Select * from Produtos Where Codigo <> 1 Order By Descrição", [&](const Recordset &rs) {
         FieldValue code;
-        OnErrorResumeNext([&] { code = rs->Fields("Cod"); },
+        OnErrorResumeNext([&] { code = rs.Fields("Cod"); },
                           [&] {
-                              const QString description = rs->Fields("Descrição").text();
+                              const QString description = rs.Fields("Descrição").text();
                               const bool coded = !code.isNull() && code.text() != Placeholder::NoProductCode;
                               entries += coded ? productEntry(code.text(), description) : description;
                           });
-    }
-    Fechar_Recordset(rs);
+    });
     ui.cmbprodutos->addItems(entries);
     ui.cmbprodutos->setCurrentIndex(-1);
 }
@@ -152,17 +148,10 @@ void SaleProducts::Info_Produto(const QString &descricao)
 QString SaleProducts::Retornar_Descrição(const QString &cod_barra)
 {
     QString entry;
-    OnErrorResumeNext([&] {
-        Abrir_Banco_Principal();
-        RecordsetHandle rs;
-        rs = Abrir_Recordset(rs, BancoPrincipal,
-                             "Select Descrição,Cod From Produtos Where Cod_Barra='" + cod_barra + "'");
-        if (!rs || rs->Eof())
-            return;
-        const QString code = rs->Fields("Cod").text();
-        const QString description = rs->Fields("Descrição").text();
+    readFirstRow("Select Descrição,Cod From Produtos Where Cod_Barra='" + cod_barra + "'", [&](const Recordset &rs) {
+        const QString code = rs.Fields("Cod").text();
+        const QString description = rs.Fields("Descrição").text();
         entry = code == Placeholder::NoProductCode || code.isEmpty() ? description : productEntry(code, description);
-        Fechar_Recordset(rs);
     });
     return entry;
 }

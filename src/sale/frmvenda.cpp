@@ -7,7 +7,7 @@
 #include "configuration/Globais.h"
 #include "customers/frmcadastro_clientes.h"
 #include "data/Acesso_BD.h"
-#include "data/Funcoes.h"
+#include "data/Lookups.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Forms.h"
@@ -22,6 +22,8 @@
 #include "sale/SaleScans.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
+#include "windows/NumberKeys.h"
+#include "windows/OpenForms.h"
 
 frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
 {

@@ -1,9 +1,9 @@
 #include "tests/customers/CustomerDesk.h"
 
 #include "customers/PhotoBox.h"
-#include "data/Funcoes.h"
 #include "platform/base/Err.h"
 #include "sale/frmvenda.h"
+#include "windows/OpenForms.h"
 
 #include <QFile>
 #include <QImage>

@@ -1,9 +1,9 @@
 #include "tests/customers/CustomerDesk.h"
 
-#include "data/Funcoes.h"
 #include "platform/base/Machine.h"
 #include "platform/window/PictureBox.h"
 #include "sale/frmvenda.h"
+#include "windows/OpenForms.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,8 +1,10 @@
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
-#include "data/Funcoes.h"
+#include "data/CashPeriod.h"
+#include "data/Lookups.h"
 #include "platform/base/Err.h"
 #include "tests/support/TestCafe.h"
+#include "windows/NumberKeys.h"
 
 #include <QApplication>
 #include <QDir>

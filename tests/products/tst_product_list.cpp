@@ -1,8 +1,8 @@
 #include "tests/products/ProductDesk.h"
 
-#include "data/Funcoes.h"
 #include "platform/window/Forms.h"
 #include "sale/frmvenda.h"
+#include "windows/OpenForms.h"
 
 #include <QTest>
 

@@ -1,5 +1,5 @@
+#include "categories/frmcadastro_categoria.h"
 #include "customers/frmcadastro_clientes.h"
-#include "products/frmcadastro_categoria.h"
 #include "products/frmcadastro_produtos.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/PdfText.h"

@@ -1,3 +1,4 @@
+#include "categories/frmcadastro_categoria.h"
 #include "checkout/frmconfig_recibo.h"
 #include "codes/frmcodigo_rapido.h"
 #include "codes/frmetiquetas.h"
@@ -5,7 +6,6 @@
 #include "customers/frmcadastro_clientes.h"
 #include "photo/frmwebcam.h"
 #include "platform/window/Forms.h"
-#include "products/frmcadastro_categoria.h"
 #include "products/frmcadastro_produtos.h"
 #include "sale/frmvenda.h"
 #include "shell/frmprincipal.h"

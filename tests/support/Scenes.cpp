@@ -1,21 +1,22 @@
 #include "tests/support/Scenes.h"
 
+#include "categories/frmcadastro_categoria.h"
 #include "checkout/frmconfig_recibo.h"
 #include "codes/frmcodigo_rapido.h"
 #include "codes/frmetiquetas.h"
 #include "configuration/Idiomas.h"
 #include "customers/frmcadastro_clientes.h"
-#include "data/Funcoes.h"
 #include "photo/frmwebcam.h"
+#include "platform/print/PageScale.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Forms.h"
-#include "products/frmcadastro_categoria.h"
 #include "products/frmcadastro_produtos.h"
 #include "sale/frmvenda.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/Controls.h"
 #include "tests/support/FakeCamera.h"
 #include "tests/support/Portrait.h"
+#include "windows/OpenForms.h"
 
 #include <QCoreApplication>
 #include <QLabel>

@@ -3,13 +3,15 @@
 #include "configuration/Globais.h"
 #include "configuration/Idiomas.h"
 #include "data/Acesso_BD.h"
-#include "data/Funcoes.h"
+#include "data/CashPeriod.h"
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/print/Printer.h"
+#include "platform/text/Numbers.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Forms.h"
 #include "tests/support/EngineSql.h"
+#include "windows/OpenForms.h"
 
 #include <QFile>
 

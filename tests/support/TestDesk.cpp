@@ -1,6 +1,7 @@
 #include "tests/support/TestDesk.h"
 
-#include "data/Funcoes.h"
+#include "platform/print/PageScale.h"
+#include "windows/OpenForms.h"
 
 #include <QTest>
 

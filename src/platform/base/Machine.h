@@ -16,7 +16,7 @@ struct Machine
 {
     Machine();
 
-    /// Folder of the program's own file. The application names it at its start; before that, the executable's.
+    /// Folder of the program's own file. The executable's unless the program names another.
     std::function<QString()> programFolder;
     std::function<QDateTime()> now;
     std::function<void(int milliseconds)> sleep;
@@ -26,6 +26,8 @@ struct Machine
     std::function<void(const QString &path)> playWave;
     /// Device file behind printer port LPT<n>; an empty text when the computer has no such device.
     std::function<QString(int port)> portDevice;
+    /// Folders in which the computer's owner lets printouts for a port become files.
+    std::function<QStringList()> portFolders;
     /// Names of the installed printers, in the system's order.
     std::function<QStringList()> printerNames;
     /// Name of the system's default printer; an empty text when there is none.

@@ -2,9 +2,7 @@
 
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
-#include "platform/files/IniProfile.h"
 #include "platform/files/Paths.h"
-#include "platform/files/PointerFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -25,18 +23,16 @@ constexpr int WithoutWaiting = O_WRONLY | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW | O
 /// Where it is lost the file is refused, which harms nothing.
 constexpr mode_t Mark = S_ISVTX;
 constexpr mode_t NewPort = Mark | 0660;
-constexpr int LongestList = 500;
 
 [[noreturn]] void refusePort(const QString &name)
 {
     throw RunTimeError(ErrorNumber::DeviceUnavailable, "Device unavailable: " + name);
 }
 
-/// By their real paths; a carried copy's own pointer file may lie on a share, so everyone's alone counts.
+/// By their real paths.
 bool mayHoldPorts(const QString &folder)
 {
-    const QString installed = PointerPlaces::onThisComputer().ofEveryone + u'/' + pointerFileName;
-    QStringList allowed = GetPrivateProfileString("Ports", "Folders", {}, LongestList, installed).split(u';');
+    QStringList allowed = Machine::current().portFolders();
     allowed << Machine::current().printoutFolder() << QDir::tempPath();
     return std::any_of(allowed.cbegin(), allowed.cend(), [&](const QString &each) {
         const QString real = QFileInfo(each.trimmed()).canonicalFilePath();

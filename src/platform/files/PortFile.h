@@ -8,8 +8,8 @@
 /// - LPT1 to LPT9: the computer's printer devices, which are never created;
 /// - a character device;
 /// - a file in the folder of the printouts, in the system's temporary folder, or in one that the computer's owner names
-///   (`[Ports]` `Folders`, separated by ";", in everyone's pointer file) or below them. It is made, or it is one that
-///   was made here and is written anew. A link counts as what it leads to.
+///   (`Machine::portFolders`), or below them. It is made, or it is one that was made here and is written anew. A link
+///   counts as what it leads to.
 int openPortFile(const QString &name);
 
 /// Number of the printer port that a name stands for; 0 for any other name.

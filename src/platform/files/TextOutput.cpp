@@ -93,3 +93,9 @@ void TextOutput::Close()
     if (!taken || m_file.error() != QFileDevice::NoError)
         throw RunTimeError(ErrorNumber::DeviceUnavailable, m_file.errorString());
 }
+
+void Linhas_Em_Branco(int count, TextOutput &file)
+{
+    for (int line = 0; line < count; ++line)
+        OnErrorResumeNext([&] { file.Print(); });
+}

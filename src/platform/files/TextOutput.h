@@ -30,3 +30,6 @@ private:
     QFile m_file;
     int m_waitsLeft = 0;
 };
+
+/// Writes empty lines to an open text file, each whether or not those before it came out; none for a count below 1.
+void Linhas_Em_Branco(int count, TextOutput &file);

@@ -86,3 +86,8 @@ QString FormatCurrency(double value, int decimals)
     const QString pattern = decimals > 0 ? "#,##0." + QString(decimals, u'0') : QString("#,##0");
     return form.replace("1", Format(std::abs(value), pattern));
 }
+
+QString Simbolo_Moeda_Regional()
+{
+    return FormatCurrency(0, 0).remove('0').trimmed();
+}

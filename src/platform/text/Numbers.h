@@ -27,3 +27,6 @@ QString Format(double value, QStringView pattern);
 
 /// The value in the region's currency form with the given number of decimals.
 QString FormatCurrency(double value, int decimals);
+
+/// Currency symbol of the region.
+QString Simbolo_Moeda_Regional();

@@ -3,7 +3,6 @@
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/base/Patience.h"
-#include "platform/files/PointerFile.h"
 #include "platform/media/CameraModule.h"
 #include "platform/window/BusySign.h"
 #include "platform/window/Look.h"
@@ -56,7 +55,6 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     if (translator->load(QLocale::system(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         installTranslator(translator);
 
-    Machine::current().programFolder = [] { return PointerPlaces::onThisComputer().folder(); };
     // Asked when a window needs them: looking for printers may wait for the network.
     Machine::current().printerNames = [] { return QPrinterInfo::availablePrinterNames(); };
     Machine::current().defaultPrinterName = [] { return QPrinterInfo::defaultPrinterName(); };

@@ -132,11 +132,8 @@ private slots:
     void reachesNoFileThroughAPort()
     {
         qputenv("TMPDIR", m_folder->filePath("tmp").toUtf8());
-        qputenv("XDG_CONFIG_DIRS", m_folder->filePath("etc").toUtf8());
         QVERIFY(QDir().mkpath("tmp") && QDir().mkpath("home") && QDir().mkpath("spool/today"));
-        const QString pointer = m_folder->filePath("etc/morvelane/ConfigIni.txt");
-        QVERIFY(QDir().mkpath("etc/morvelane") &&
-                WritePrivateProfileString("Ports", "Folders", " ;" + m_folder->filePath("spool"), pointer));
+        Machine::current().portFolders = [&] { return QStringList{" ", m_folder->filePath("spool")}; };
         QVERIFY(QFile("tmp/data").open(QIODevice::WriteOnly) && QFile("b.txt").resize(7));
         QVERIFY(QFile::link(m_folder->filePath("b.txt"), "tmp/link") && QFile::link("../gone", "tmp/dangling"));
         QVERIFY(QFile::link(m_folder->filePath("home"), "tmp/home") && mkfifo("tmp/pipe", 0600) == 0);

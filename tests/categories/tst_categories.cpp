@@ -1,4 +1,4 @@
-#include "products/frmcadastro_categoria.h"
+#include "categories/frmcadastro_categoria.h"
 #include "tests/support/TestDesk.h"
 
 #include <QCheckBox>

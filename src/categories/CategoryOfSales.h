@@ -6,4 +6,4 @@
 
 /// Changes the products sold so far, in the table of this program and in the one that only some data files hold.
 /// `change` is an Update from its assignments on.
-void updateSoldProducts(const QString &change, const std::function<void(const QString &sql)> &execute);
+void updateCategoryOfSales(const QString &change, const std::function<void(const QString &sql)> &execute);

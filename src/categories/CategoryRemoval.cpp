@@ -1,13 +1,13 @@
-#include "products/CategoryRemoval.h"
+#include "categories/CategoryRemoval.h"
 
-#include "data/Acesso_BD.h"
+#include "categories/CategoryList.h"
+#include "categories/CategoryOfSales.h"
+#include "categories/CategoryState.h"
+#include "categories/CategoryTexts.h"
+#include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/window/FlexGrid.h"
 #include "platform/window/Prompts.h"
-#include "products/CategoryList.h"
-#include "products/CategoryState.h"
-#include "products/CategoryTexts.h"
-#include "products/SoldProducts.h"
 
 namespace {
 void removeRows(const QStringList &codes, const QStringList &names, const QString &heir)
@@ -15,7 +15,7 @@ void removeRows(const QStringList &codes, const QStringList &names, const QStrin
     executeStatement("DELETE from Categoria WHERE " + codes.join(" OR "));
     const QString moved = "Categoria = '" + heir + "'Where " + names.join(" OR ");
     executeStatement("Update Produtos Set " + moved);
-    updateSoldProducts(moved, executeStatement);
+    updateCategoryOfSales(moved, executeStatement);
 }
 } // namespace
 

@@ -1,13 +1,13 @@
-#include "products/frmcadastro_categoria.h"
+#include "categories/frmcadastro_categoria.h"
 
+#include "categories/CategoryEditing.h"
+#include "categories/CategoryList.h"
+#include "categories/CategoryPrintouts.h"
+#include "categories/CategoryRemoval.h"
+#include "categories/CategoryTexts.h"
+#include "categories/DefaultCategory.h"
 #include "data/Acesso_BD.h"
 #include "platform/window/BoxKeys.h"
-#include "products/CategoryEditing.h"
-#include "products/CategoryList.h"
-#include "products/CategoryPrintouts.h"
-#include "products/CategoryRemoval.h"
-#include "products/CategoryTexts.h"
-#include "products/DefaultCategory.h"
 #include "ui_frmcadastro_categoria.h"
 
 frmcadastro_categoria::frmcadastro_categoria() : ui(std::make_unique<Ui::frmcadastro_categoria>())

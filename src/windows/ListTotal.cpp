@@ -1,7 +1,7 @@
-#include "products/ListTotal.h"
+#include "windows/ListTotal.h"
 
-#include "configuration/WindowTexts.h"
 #include "platform/window/Label.h"
+#include "windows/WindowTexts.h"
 
 void showTotal(const WindowTexts &texts, int rows, std::initializer_list<Label *> labels)
 {

@@ -1,17 +1,17 @@
-#include "products/CategoryEditing.h"
+#include "categories/CategoryEditing.h"
 
+#include "categories/CategoryList.h"
+#include "categories/CategoryOfSales.h"
+#include "categories/CategoryState.h"
+#include "categories/CategoryTexts.h"
+#include "categories/DefaultCategory.h"
 #include "data/Acesso_BD.h"
-#include "data/FirstRow.h"
-#include "data/Funcoes.h"
+#include "data/Queries.h"
+#include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
-#include "products/CategoryList.h"
-#include "products/CategoryState.h"
-#include "products/CategoryTexts.h"
-#include "products/DefaultCategory.h"
-#include "products/SoldProducts.h"
 #include "ui_frmcadastro_categoria.h"
 
 namespace {
@@ -127,7 +127,7 @@ void CategoryEditing::carryOver(const QString &name)
     const QString renamed = "Categoria = '" + name + "'";
     const QString formerly = "Where Categoria = '" + m_state.NomeAntigo + "'";
     executeIgnoringErrors("Update Produtos Set " + renamed + " " + formerly);
-    updateSoldProducts(renamed + formerly, executeIgnoringErrors);
+    updateCategoryOfSales(renamed + formerly, executeIgnoringErrors);
 }
 
 void CategoryEditing::settleDefault(const QString &name)

@@ -1,6 +1,8 @@
-#include "platform/files/PointerFile.h"
+#include "configuration/PointerFile.h"
 
 #include "platform/base/Err.h"
+#include "platform/base/Machine.h"
+#include "platform/files/IniProfile.h"
 #include "platform/files/Paths.h"
 
 #include <QCoreApplication>
@@ -9,14 +11,13 @@
 #include <QStandardPaths>
 
 namespace {
-
 constexpr auto folderName = "/morvelane";
+constexpr int longestFolders = 500;
 
 QFileInfo pointerIn(const QString &folder)
 {
     return QFileInfo(resolveIgnoringCase(folder + '/' + pointerFileName));
 }
-
 } // namespace
 
 PointerPlaces PointerPlaces::onThisComputer()
@@ -37,4 +38,16 @@ QString PointerPlaces::folder() const
     if (everyones.exists() && (!own.exists() || own.lastModified() < everyones.lastModified()))
         OnErrorResumeNext([&] { FileCopy(everyones.filePath(), own.filePath()); });
     return ofUser;
+}
+
+QStringList PointerPlaces::portFolders() const
+{
+    return GetPrivateProfileString("Ports", "Folders", {}, longestFolders, ofEveryone + '/' + pointerFileName)
+        .split(';');
+}
+
+void followPointerFile()
+{
+    Machine::current().programFolder = [] { return PointerPlaces::onThisComputer().folder(); };
+    Machine::current().portFolders = [] { return PointerPlaces::onThisComputer().portFolders(); };
 }

@@ -3,8 +3,22 @@
 #include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
 
-/// Runs a query on the main handle and hands its first row over, with errors ignored. False when there is no row, and
-/// when the query fails.
+#include <utility>
+
+/// Runs a query on the main handle and hands its rows over, with errors ignored: one that can't be read ends with its
+/// failure, the next one follows, and a query that fails has none.
+template <typename Read>
+void forEachRow(const QString &sql, Read read)
+{
+    RecordsetHandle rs;
+    Abrir_Banco_Principal();
+    Abrir_Recordset(rs, BancoPrincipal, sql);
+    for (; rs && !rs->Eof(); rs->MoveNext())
+        OnErrorResumeNext([&] { read(std::as_const(*rs)); });
+    Fechar_Recordset(rs);
+}
+
+/// The same with the first row alone. False when there is none, and when the query fails.
 template <typename Read>
 bool readFirstRow(const QString &sql, Read read)
 {
@@ -13,7 +27,7 @@ bool readFirstRow(const QString &sql, Read read)
     Abrir_Recordset(rs, BancoPrincipal, sql);
     const bool found = rs && !rs->Eof();
     if (found)
-        OnErrorResumeNext([&] { read(*rs); });
+        OnErrorResumeNext([&] { read(std::as_const(*rs)); });
     Fechar_Recordset(rs);
     return found;
 }
@@ -42,23 +56,33 @@ inline bool hasRow(const QString &sql)
 /// The same for routines whose failures are trapped or end the program: these raise what fails.
 namespace OrRaise {
 template <typename Read>
+void forEachRow(const QString &sql, Read read)
+{
+    const RecordsetHandle rs = mainDatabase().OpenRecordset(sql, dbOpenForwardOnly, dbSeeChanges);
+    for (; !rs->Eof(); rs->MoveNext())
+        read(std::as_const(*rs));
+}
+
+template <typename Read>
 bool readFirstRow(const QString &sql, Read read)
 {
-    const RecordsetHandle rs = openQuery(sql);
+    const RecordsetHandle rs = mainDatabase().OpenRecordset(sql, dbOpenForwardOnly, dbSeeChanges);
     if (rs->Eof())
         return false;
-    read(*rs);
+    read(std::as_const(*rs));
     return true;
 }
 
 inline double keyBehind(const QString &sql)
 {
-    const RecordsetHandle rs = openQuery(sql);
-    return rs->Eof() || rs->Fields(0).isNull() ? 1 : rs->Fields(0).number() + 1;
+    double key = 1;
+    OrRaise::readFirstRow(sql,
+                          [&](const Recordset &rs) { key = rs.Fields(0).isNull() ? 1 : rs.Fields(0).number() + 1; });
+    return key;
 }
 
 inline bool hasRow(const QString &sql)
 {
-    return !openQuery(sql)->Eof();
+    return OrRaise::readFirstRow(sql, [](const Recordset &) {});
 }
 } // namespace OrRaise

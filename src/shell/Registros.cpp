@@ -1,4 +1,4 @@
-#include "configuration/Registros.h"
+#include "shell/Registros.h"
 
 #include "platform/files/RegistryStore.h"
 #include "platform/window/Prompts.h"

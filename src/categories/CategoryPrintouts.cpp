@@ -1,10 +1,10 @@
-#include "products/CategoryPrintouts.h"
+#include "categories/CategoryPrintouts.h"
 
+#include "categories/CategoryList.h"
+#include "categories/CategoryTexts.h"
 #include "platform/print/Printer.h"
 #include "platform/window/FlexGrid.h"
 #include "platform/window/Prompts.h"
-#include "products/CategoryList.h"
-#include "products/CategoryTexts.h"
 #include "reports/ListReport.h"
 
 namespace {

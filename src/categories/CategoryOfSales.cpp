@@ -1,8 +1,8 @@
-#include "products/SoldProducts.h"
+#include "categories/CategoryOfSales.h"
 
 #include "data/Acesso_BD.h"
 
-void updateSoldProducts(const QString &change, const std::function<void(const QString &sql)> &execute)
+void updateCategoryOfSales(const QString &change, const std::function<void(const QString &sql)> &execute)
 {
     execute("Update Venda_Produtos Set " + change);
     if (Existe_Tabela("Venda_ProdutosOti"))

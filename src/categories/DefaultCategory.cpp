@@ -1,8 +1,8 @@
-#include "products/DefaultCategory.h"
+#include "categories/DefaultCategory.h"
 
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
-#include "data/FirstRow.h"
+#include "data/Queries.h"
 
 QString storedDefaultCategory()
 {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "categories/CategoryState.h"
 #include "platform/window/Form.h"
-#include "products/CategoryState.h"
 
 #include <memory>
 

@@ -1,12 +1,12 @@
-#include "products/CategoryList.h"
+#include "categories/CategoryList.h"
 
-#include "data/Acesso_BD.h"
+#include "categories/CategoryState.h"
+#include "categories/CategoryTexts.h"
+#include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
-#include "products/CategoryState.h"
-#include "products/CategoryTexts.h"
-#include "products/ListTotal.h"
 #include "ui_frmcadastro_categoria.h"
+#include "windows/ListTotal.h"
 
 namespace {
 QString markOf(bool isDefault)
@@ -32,15 +32,11 @@ void CategoryList::load()
         grid.setCols(CategoryColumn::Count);
         grid.setRows(1);
 
-        RecordsetHandle rs;
-        Abrir_Recordset(rs, BancoPrincipal, "Select * from Categoria Order By Nome");
         // A row without a number is left out: nothing could be done with it here.
-        for (; rs && !rs->Eof(); rs->MoveNext())
-            OnErrorResumeNext([&] {
-                const QString name = rs->Fields("Nome").text();
-                addCategory(rs->Fields("Codigo").number(), name, name.toUpper() == m_state.CategoriaPadrao);
-            });
-        Fechar_Recordset(rs);
+        forEachRow("Select * from Categoria Order By Nome", [&](const Recordset &rs) {
+            const QString name = rs.Fields("Nome").text();
+            addCategory(rs.Fields("Codigo").number(), name, name.toUpper() == m_state.CategoriaPadrao);
+        });
         grid.setRow(0);
     });
     showTotal();

@@ -1,5 +1,5 @@
+#include "configuration/PointerFile.h"
 #include "platform/files/IniProfile.h"
-#include "platform/files/PointerFile.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -59,6 +59,11 @@ private:
         // What was taken over is a file of the user's own, and there it can be written.
         QVERIFY(WritePrivateProfileString("Configuracoes", "BD", "chosen", found + "/ConfigIni.txt"));
         QCOMPARE(pointerIn(places.folder()), QString("chosen"));
+        // A carried copy's pointer may lie on a share: it doesn't say where ports may be.
+        for (const QString &each : {found, places.ofEveryone})
+            QVERIFY(QDir().mkpath(each) &&
+                    WritePrivateProfileString("Ports", "Folders", "/srv;" + each, each + "/ConfigIni.txt"));
+        QCOMPARE(places.portFolders(), QStringList({"/srv", places.ofEveryone}));
     }
 };
 

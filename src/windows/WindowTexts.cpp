@@ -1,4 +1,4 @@
-#include "configuration/WindowTexts.h"
+#include "windows/WindowTexts.h"
 
 #include "configuration/Idiomas.h"
 #include "platform/files/IniProfile.h"

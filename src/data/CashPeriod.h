@@ -1,0 +1,9 @@
+#pragma once
+
+/// Number of the newest cash period, as last read.
+extern double IdCaixa;
+
+/// Reads the newest cash period into `IdCaixa`, 0 when there is none.
+void Obter_Ultimo_Caixa();
+/// Whether the newest cash period is open.
+bool Caixa_Aberto();
