@@ -54,23 +54,10 @@ CustomerForm::CustomerForm(Ui::frmcadastro_clientes &window, QObject *parent)
 
 void CustomerForm::connectEnterChain()
 {
-    enterMovesTo(ui.txtnome, ui.txtdata_nascimento);
-    enterMovesTo(ui.txtdata_nascimento, ui.txtfiliação);
-    enterMovesTo(ui.txtfiliação, ui.txtdocumento);
-    enterMovesTo(ui.txtdocumento, ui.txtnick);
-    enterMovesTo(ui.txtnick, ui.cmbgrupo_clientes);
-    enterMovesTo(ui.cmbgrupo_clientes, ui.txtrua);
-    enterMovesTo(ui.txtrua, ui.txtnumero);
-    enterMovesTo(ui.txtnumero, ui.txtComplemento);
-    enterMovesTo(ui.txtComplemento, ui.txtbairro);
-    enterMovesTo(ui.txtbairro, ui.txtcidade);
-    enterMovesTo(ui.txtcidade, ui.txtCep);
-    enterMovesTo(ui.txtCep, ui.cmbUF);
-    enterMovesTo(ui.cmbUF, ui.txttel_residencial);
-    enterMovesTo(ui.txttel_residencial, ui.txttel_comercial);
-    enterMovesTo(ui.txttel_comercial, ui.txttel_celular);
-    enterMovesTo(ui.txttel_celular, ui.txtmail);
-    enterMovesTo(ui.txtmail, ui.txtobs);
+    enterLeadsThrough(ui.txtnome, ui.txtdata_nascimento, ui.txtfiliação, ui.txtdocumento, ui.txtnick,
+                      ui.cmbgrupo_clientes, ui.txtrua, ui.txtnumero, ui.txtComplemento, ui.txtbairro, ui.txtcidade,
+                      ui.txtCep, ui.cmbUF, ui.txttel_residencial, ui.txttel_comercial, ui.txttel_celular, ui.txtmail,
+                      ui.txtobs);
 }
 
 void CustomerForm::connectGroup()

@@ -53,14 +53,8 @@ ProductForm::ProductForm(Ui::frmcadastro_produtos &window, QObject *parent)
 
 void ProductForm::connectEnterChain()
 {
-    enterMovesTo(ui.txtdescrição, ui.txtfornecedor);
-    enterMovesTo(ui.txtfornecedor, ui.txtvalor_unitario);
-    enterMovesTo(ui.txtvalor_unitario, ui.txtquantidade_atual);
-    enterMovesTo(ui.txtquantidade_atual, ui.txtcod_barra);
-    enterMovesTo(ui.txtcod_barra, ui.txtcod);
-    enterMovesTo(ui.txtcod, ui.cmbcardapio);
-    enterMovesTo(ui.cmbcardapio, ui.txtestoque_min);
-    enterMovesTo(ui.txtestoque_min, ui.cmdadicionar);
+    enterLeadsThrough(ui.txtdescrição, ui.txtfornecedor, ui.txtvalor_unitario, ui.txtquantidade_atual, ui.txtcod_barra,
+                      ui.txtcod, ui.cmbcardapio, ui.txtestoque_min, ui.cmdadicionar);
     connect(ui.txtvalor_unitario, &TextBox::KeyPress, this,
             [this](int &KeyAscii) { KeyAscii = Filtrar_Numero(KeyAscii, ui.txtvalor_unitario->text(), false); });
     connect(ui.txtquantidade_atual, &TextBox::KeyPress, this, keepDigits);

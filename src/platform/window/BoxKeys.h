@@ -16,6 +16,15 @@ void enterMovesTo(Box *box, QWidget *next)
     });
 }
 
+/// The same through any number of controls.
+template <typename Box, typename Next, typename... Rest>
+void enterLeadsThrough(Box *box, Next *next, Rest *...rest)
+{
+    enterMovesTo(box, next);
+    if constexpr (sizeof...(rest) > 0)
+        enterLeadsThrough(next, rest...);
+}
+
 /// The whole text is selected when the attendant enters the box.
 template <typename Box>
 void selectOnEntry(Box *box)
