@@ -36,7 +36,7 @@ ListReport reportOf(const FlexGrid &grid)
 }
 } // namespace
 
-void imprimirClientes(const FlexGrid &tab_clientes, int TotalClientes)
+void printCustomers(const FlexGrid &tab_clientes, int TotalClientes)
 {
     if (!customerTexts.confirms("MsgBox15", "MsgBox15_2", vbQuestion))
         return;
@@ -59,7 +59,7 @@ void imprimirClientes(const FlexGrid &tab_clientes, int TotalClientes)
     printList(list);
 }
 
-void salvarClientes(const FlexGrid &tab_clientes, int TotalClientes)
+void saveCustomers(const FlexGrid &tab_clientes, int TotalClientes)
 {
     if (TotalClientes == 0)
         return customerTexts.notice("MsgBox25", "MsgBox13_2");

@@ -37,7 +37,7 @@ void removeRows(const FlexGrid &grid, int first, int last)
 }
 } // namespace
 
-bool excluirClientes(Form &form, const FlexGrid &tab_clientes, const CustomerState &state)
+bool removeCustomers(Form &form, const FlexGrid &tab_clientes, const CustomerState &state)
 {
     const int picked = state.LinhaSelecionada;
     const int selected = tab_clientes.RowSel();

@@ -26,9 +26,9 @@ frmcadastro_clientes::frmcadastro_clientes() : ui(std::make_unique<Ui::frmcadast
     connect(ui->cmdeditar, &QPushButton::clicked, this, &frmcadastro_clientes::Editar_Cliente);
     connect(ui->cmdexcluir, &QPushButton::clicked, this, &frmcadastro_clientes::cmdexcluir_Click);
     connect(ui->cmdimprimir, &QPushButton::clicked, this,
-            [this] { imprimirClientes(*ui->tab_clientes, m_state.TotalClientes); });
+            [this] { printCustomers(*ui->tab_clientes, m_state.TotalClientes); });
     connect(ui->cmdsalvar, &QPushButton::clicked, this,
-            [this] { salvarClientes(*ui->tab_clientes, m_state.TotalClientes); });
+            [this] { saveCustomers(*ui->tab_clientes, m_state.TotalClientes); });
     connect(ui->cmdsair, &QPushButton::clicked, this, &frmcadastro_clientes::Unload);
 }
 
@@ -75,7 +75,7 @@ void frmcadastro_clientes::Localizar(const QString &texto)
 
 void frmcadastro_clientes::cmdexcluir_Click()
 {
-    if (excluirClientes(*this, *ui->tab_clientes, m_state)) {
+    if (removeCustomers(*this, *ui->tab_clientes, m_state)) {
         m_form->clear();
         Form_Load();
     }
