@@ -24,8 +24,6 @@ private:
     void begin();
     /// False when a refusal leaves the edit open.
     bool save();
-    bool isTaken(bool renamed);
-    void carryOver(bool renamed);
     void end();
     void setUnderEdit(bool underEdit);
 

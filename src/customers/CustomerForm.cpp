@@ -39,37 +39,38 @@ void warnOfApostrophe(Box *box)
 }
 } // namespace
 
-CustomerForm::CustomerForm(Ui::frmcadastro_clientes &window, QObject *parent)
-    : QObject(parent)
-    , ui(window)
-    , m_boxes{ui.txtnome, ui.txtdata_nascimento, ui.txtfiliação,      ui.txtdocumento,   ui.txtnick,
-              ui.txtrua,  ui.txtnumero,          ui.txtComplemento,   ui.txtbairro,      ui.txtcidade,
-              ui.txtCep,  ui.txttel_residencial, ui.txttel_comercial, ui.txttel_celular, ui.txtmail}
-{
-    connectEnterChain();
-    connectGroup();
-    for (TextBox *box : {ui.txtnome, ui.txtcidade, static_cast<TextBox *>(ui.txtCep), ui.txtnome_busca})
-        selectOnEntry(box);
-}
-
-void CustomerForm::connectEnterChain()
+CustomerForm::CustomerForm(Ui::frmcadastro_clientes &window)
+    : ui(window)
+    , m_fields{{"Nome", ui.txtnome, &Customer::Nome},
+               {"Data_Nasc", ui.txtdata_nascimento, &Customer::Data_Nasc},
+               {"Filiacao", ui.txtfiliação, &Customer::Filiacao},
+               {"Documento", ui.txtdocumento, &Customer::Documento},
+               {"Nick", ui.txtnick, &Customer::Nick},
+               {"Rua", ui.txtrua, &Customer::Rua},
+               {"Numero", ui.txtnumero, &Customer::Numero},
+               {"Complemento", ui.txtComplemento, &Customer::Complemento},
+               {"Bairro", ui.txtbairro, &Customer::Bairro},
+               {"Cidade", ui.txtcidade, &Customer::Cidade},
+               {"CEP", ui.txtCep, &Customer::CEP},
+               {"Tel_Residencial", ui.txttel_residencial, &Customer::Tel_Residencial},
+               {"Tel_Comercial", ui.txttel_comercial, &Customer::Tel_Comercial},
+               {"Tel_Celular", ui.txttel_celular, &Customer::Tel_Celular},
+               {"E_Mail", ui.txtmail, &Customer::E_Mail}}
 {
     enterLeadsThrough(ui.txtnome, ui.txtdata_nascimento, ui.txtfiliação, ui.txtdocumento, ui.txtnick,
                       ui.cmbgrupo_clientes, ui.txtrua, ui.txtnumero, ui.txtComplemento, ui.txtbairro, ui.txtcidade,
                       ui.txtCep, ui.cmbUF, ui.txttel_residencial, ui.txttel_comercial, ui.txttel_celular, ui.txtmail,
                       ui.txtobs);
-}
-
-void CustomerForm::connectGroup()
-{
     connect(ui.cmbgrupo_clientes, &ComboBox::Click, this, &CustomerForm::showDiscount);
     takesEntriesOnly(ui.cmbgrupo_clientes);
+    for (TextBox *box : {ui.txtnome, ui.txtcidade, static_cast<TextBox *>(ui.txtCep), ui.txtnome_busca})
+        selectOnEntry(box);
 }
 
 bool CustomerForm::testar_valores()
 {
-    for (TextBox *box : std::as_const(m_boxes))
-        warnOfApostrophe(box);
+    for (const Field &field : m_fields)
+        warnOfApostrophe(field.box);
     warnOfApostrophe(ui.txtobs);
     warnOfApostrophe(ui.txtnome_busca);
     // It warns and never refuses, and that stays: the statement itself breaks.
@@ -140,8 +141,8 @@ void CustomerForm::takeTownOfCafe()
 
 void CustomerForm::clear()
 {
-    for (TextBox *box : std::as_const(m_boxes))
-        box->setText({});
+    for (const Field &field : m_fields)
+        field.box->setText({});
     ui.txtobs->setText({});
     ui.txtdata_nascimento->setText(emptyDate);
     ui.txtCep->setText(emptyPostalCode);
@@ -156,34 +157,74 @@ void CustomerForm::selectFirstState()
         ui.cmbUF->setCurrentIndex(0);
 }
 
-bool CustomerForm::hasBirthDate() const
+void CustomerForm::selectFirstGroup()
 {
-    return ui.txtdata_nascimento->text() != emptyDate;
+    ui.cmbgrupo_clientes->setText(Ler_INI(caminhoConfig(), "Grupo Clientes", "Padrao"));
+    if (ui.cmbgrupo_clientes->count() > 0)
+        ui.cmbgrupo_clientes->setCurrentIndex(0);
+    showDiscount();
 }
 
-void CustomerForm::fillUpToBirthDate()
+Customer CustomerForm::customer() const
+{
+    Customer customer;
+    for (const Field &field : m_fields)
+        customer.*field.text = field.box->text();
+    customer.Grupo = ui.cmbgrupo_clientes->Text();
+    customer.UF = ui.cmbUF->Text();
+    customer.Obs = ui.txtobs->text();
+    customer.Autorizado = ui.chkautorização->isChecked();
+    customer.MsgObs = ui.chkobs->isChecked();
+    return customer;
+}
+
+void CustomerForm::show(const Recordset &rs)
+{
+    for (const Field &field : m_fields)
+        fillFrom(rs, field.name, field.box);
+    fillFrom(rs, "Grupo", ui.cmbgrupo_clientes);
+    fillFrom(rs, "UF", ui.cmbUF);
+    fillFrom(rs, "Obs", ui.txtobs);
+    const auto tickFrom = [&](const char *field, QCheckBox *box) {
+        OnErrorResumeNext([&] { box->setChecked(!rs.Fields(field).isNull() && rs.Fields(field).boolean()); });
+    };
+    tickFrom("Autorizado", ui.chkautorização);
+    tickFrom("MsgObs", ui.chkobs);
+}
+
+void CustomerForm::focusOn(CustomerText text)
+{
+    for (const Field &field : m_fields)
+        if (field.text == text)
+            field.box->setFocus();
+}
+
+void CustomerForm::fillBeforeBirthDate()
 {
     fillIfEmpty(ui.txtnome, Placeholder::NoName);
     fillIfEmpty(ui.txtmail, Placeholder::NoName);
 }
 
-void CustomerForm::fillBehindBirthDate()
+bool CustomerForm::hasBirthDate() const
 {
-    for (TextBox *box : {ui.txtrua, ui.txtnumero, ui.txtComplemento, ui.txtbairro, ui.txtcidade})
-        fillIfEmpty(box, Placeholder::NoName);
+    return ui.txtdata_nascimento->text() != emptyDate;
+}
+
+void CustomerForm::fillFromBirthDate(const QString &noBirthDate)
+{
+    if (!hasBirthDate())
+        ui.txtdata_nascimento->setText(noBirthDate);
+    if (ui.txtCep->text() == emptyPostalCode || ui.txtCep->text().isEmpty())
+        ui.txtCep->setText(Placeholder::NoPostalCode);
     if (ui.cmbUF->Text().isEmpty())
         ui.cmbUF->setText(Placeholder::NoState);
-    if (ui.txtCep->text() == emptyPostalCode)
-        ui.txtCep->setText({});
-    fillIfEmpty(static_cast<TextBox *>(ui.txtCep), Placeholder::NoPostalCode);
-    for (TextBox *box : {ui.txttel_residencial, ui.txttel_comercial, ui.txttel_celular})
-        fillIfEmpty(box, Placeholder::NoName);
-    fillIfEmpty(ui.txtobs, Placeholder::NoName);
-    fillIfEmpty(ui.txtnick, Placeholder::NoName);
     if (ui.cmbgrupo_clientes->Text().isEmpty())
         ui.cmbgrupo_clientes->setText(Placeholder::NoName);
-    fillIfEmpty(ui.txtfiliação, Placeholder::NoName);
-    fillIfEmpty(ui.txtdocumento, Placeholder::NoName);
+    // A stored customer without any text for a date keeps none.
+    for (const Field &field : m_fields)
+        if (field.box != ui.txtdata_nascimento)
+            fillIfEmpty(field.box, Placeholder::NoName);
+    fillIfEmpty(ui.txtobs, Placeholder::NoName);
 }
 
 void CustomerForm::showDiscount()

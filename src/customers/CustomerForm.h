@@ -1,9 +1,11 @@
 #pragma once
 
+#include "customers/Customer.h"
+
 #include <QList>
 #include <QObject>
 
-class QWidget;
+class Recordset;
 class TextBox;
 namespace Ui {
 class frmcadastro_clientes;
@@ -15,7 +17,7 @@ class CustomerForm : public QObject
     Q_OBJECT
 
 public:
-    CustomerForm(Ui::frmcadastro_clientes &window, QObject *parent);
+    explicit CustomerForm(Ui::frmcadastro_clientes &window);
 
     /// Warns of every apostrophe and always lets the caller go on; the focus ends on the last box warned of.
     bool testar_valores();
@@ -31,20 +33,31 @@ public:
     /// Empties the boxes and unticks the ticks.
     void clear();
     void selectFirstState();
+    void selectFirstGroup();
 
+    /// What the boxes hold now; the photo is not among them.
+    Customer customer() const;
+    /// Fills the boxes from a row of the customers, but for those whose field the file doesn't have.
+    void show(const Recordset &rs);
+    void focusOn(CustomerText text);
+
+    // Empty boxes get what stands in the tables for nothing, in two steps: a new customer's birth date is tested
+    // between them, before it gets its own. The boxes go on showing it, so that the customer is to be taken anew.
+    void fillBeforeBirthDate();
+    void fillFromBirthDate(const QString &noBirthDate);
     bool hasBirthDate() const;
-    // Empty boxes get what stands in the tables for nothing; those before and those behind the birth date.
-    void fillUpToBirthDate();
-    void fillBehindBirthDate();
 
     /// Discount of the group that is shown.
     void showDiscount();
 
 private:
-    void connectEnterChain();
-    void connectGroup();
-
     Ui::frmcadastro_clientes &ui;
-    /// All boxes but the observation, in the order of the window.
-    QList<TextBox *> m_boxes;
+    struct Field
+    {
+        const char *name;
+        TextBox *box;
+        CustomerText text;
+    };
+    /// The fields with a box of one line, in the order of the window.
+    const QList<Field> m_fields;
 };

@@ -1,5 +1,6 @@
 #include "customers/CustomerList.h"
 
+#include "customers/Customer.h"
 #include "customers/CustomerColumns.h"
 #include "customers/CustomerState.h"
 #include "customers/CustomerTexts.h"
@@ -28,8 +29,8 @@ QString authorisation(bool authorised)
 }
 } // namespace
 
-CustomerList::CustomerList(Ui::frmcadastro_clientes &window, CustomerState &state, QObject *parent)
-    : QObject(parent), ui(window), m_state(state), m_next(*window.cmdbusca)
+CustomerList::CustomerList(Ui::frmcadastro_clientes &window, CustomerState &state)
+    : ui(window), m_state(state), m_next(*window.cmdbusca)
 {
     connect(ui.cmdordenar, &QPushButton::clicked, this, &CustomerList::cmdordenar_Click);
     connect(ui.cmdbusca, &QPushButton::clicked, this, &CustomerList::cmdbusca_Click);
@@ -111,24 +112,25 @@ void CustomerList::showCount(bool single)
     ui.Lblsombraclientes->setCaption(count);
 }
 
-void CustomerList::showCustomer(int row, bool authorised)
+void CustomerList::showCustomer(int row, const Customer &customer)
 {
     FlexGrid &grid = *ui.tab_clientes;
-    grid.setTextMatrix(row, CustomerColumn::Name, ui.txtnome->text().toUpper());
-    grid.setTextMatrix(row, CustomerColumn::Nick, ui.txtnick->text().toUpper());
-    grid.setTextMatrix(row, CustomerColumn::Group, ui.cmbgrupo_clientes->Text().toUpper());
-    grid.setTextMatrix(row, CustomerColumn::BirthDate, ui.txtdata_nascimento->text().toUpper());
-    grid.setTextMatrix(row, CustomerColumn::Note, ui.txtobs->text());
-    grid.setTextMatrix(row, CustomerColumn::Authorised, authorisation(authorised));
+    const Customer stored = customer.stored();
+    grid.setTextMatrix(row, CustomerColumn::Name, stored.Nome);
+    grid.setTextMatrix(row, CustomerColumn::Nick, stored.Nick);
+    grid.setTextMatrix(row, CustomerColumn::Group, stored.Grupo);
+    grid.setTextMatrix(row, CustomerColumn::BirthDate, stored.Data_Nasc);
+    grid.setTextMatrix(row, CustomerColumn::Note, stored.Obs);
+    grid.setTextMatrix(row, CustomerColumn::Authorised, authorisation(stored.Autorizado));
 }
 
-void CustomerList::addCustomer(double codigo)
+void CustomerList::addCustomer(double codigo, const Customer &customer)
 {
     FlexGrid &grid = *ui.tab_clientes;
     grid.inOneStep([&] {
         grid.setRows(grid.Rows() + 1);
         grid.setTextMatrix(grid.Rows() - 1, CustomerColumn::Codigo, Cstr(codigo));
-        showCustomer(grid.Rows() - 1, m_state.Autorizado == 1);
+        showCustomer(grid.Rows() - 1, customer);
     });
 }
 

@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+struct Customer;
 struct CustomerState;
 class Recordset;
 namespace Ui {
@@ -16,7 +17,7 @@ class CustomerList : public QObject
     Q_OBJECT
 
 public:
-    CustomerList(Ui::frmcadastro_clientes &window, CustomerState &state, QObject *parent);
+    CustomerList(Ui::frmcadastro_clientes &window, CustomerState &state);
 
     /// Loads the list anew in the order of a field; events run meanwhile.
     void Ordenar_Tabela(const QString &campo);
@@ -28,10 +29,9 @@ public:
     /// Makes a row the one that the buttons act on; 0 for none.
     void pick(int row);
 
-    /// Writes the customer in the form into a row, but for its code.
-    void showCustomer(int row, bool authorised);
-    /// Adds the customer in the form at the end.
-    void addCustomer(double codigo);
+    /// Writes a customer into a row, but for its code.
+    void showCustomer(int row, const Customer &customer);
+    void addCustomer(double codigo, const Customer &customer);
     /// Raises Overflow where there are more customers than a 16-bit number counts.
     void countAdded();
     /// What the buttons can do depends on whether anyone is listed.

@@ -7,6 +7,7 @@
 #include "photo/frmwebcam.h"
 #include "platform/base/Err.h"
 #include "platform/files/Paths.h"
+#include "platform/jet/Recordset.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Forms.h"
 #include "platform/window/Prompts.h"
@@ -17,11 +18,11 @@ constexpr quint16 pictureWaits = 65535;
 } // namespace
 
 CustomerPhoto::CustomerPhoto(Form &form, Ui::frmcadastro_clientes &window, CustomerState &state)
-    : QObject(&form), m_form(form), ui(window), m_state(state)
+    : m_form(form), ui(window), m_state(state)
 {
     connect(ui.cmdwebcam, &QPushButton::clicked, this, &CustomerPhoto::cmdwebcam_Click);
     connect(ui.cmdadd, &QPushButton::clicked, this, &CustomerPhoto::cmdadd_Click);
-    connect(ui.cmdremover, &QPushButton::clicked, this, &CustomerPhoto::cmdremover_Click);
+    connect(ui.cmdremover, &QPushButton::clicked, this, &CustomerPhoto::forget);
 }
 
 void CustomerPhoto::forget()
@@ -35,15 +36,23 @@ void CustomerPhoto::forget()
     });
 }
 
-void CustomerPhoto::keepWebcamPicture(double codigo)
+void CustomerPhoto::showStored(const Recordset &customer)
+{
+    // What is shown here isn't what the next save stores. That stays.
+    m_state.CaminhoFoto = Placeholder::NoPhoto;
+    ui.imgfoto->showStored(customer.Fields("CaminhoFoto").text());
+}
+
+QString CustomerPhoto::pathToStore(double codigo)
 {
     if (m_state.FotoWebcam != pictureWaits)
-        return;
+        return m_state.CaminhoFoto;
     const QString target = Pasta_Do_Arquivo(CaminhoBD) + "\\Fotos\\" + Cstr(codigo) + ".jpg";
     if (Existe_Arquivo(target))
         Kill(target);
     FileCopy(caminhoFototemp(), target, arquivoModelo(target));
     m_state.CaminhoFoto = target;
+    return target;
 }
 
 void CustomerPhoto::cmdwebcam_Click()
@@ -76,9 +85,4 @@ void CustomerPhoto::cmdadd_Click()
     m_state.CaminhoFoto = caixa_dialogo.FileName;
     if (!OnErrorResumeNext([&] { ui.imgfoto->showFile(caixa_dialogo.FileName); }))
         customerTexts.notice("MsgBox26");
-}
-
-void CustomerPhoto::cmdremover_Click()
-{
-    forget();
 }

@@ -4,6 +4,7 @@
 
 struct CustomerState;
 class Form;
+class Recordset;
 namespace Ui {
 class frmcadastro_clientes;
 }
@@ -18,13 +19,15 @@ public:
 
     /// No photo, neither shown nor waiting.
     void forget();
-    /// Copies a waiting picture of the camera to where the customer's photo belongs. Raises when it cannot.
-    void keepWebcamPicture(double codigo);
+    /// Shows the photo of a stored customer, whose path a save without a new one clears all the same.
+    void showStored(const Recordset &customer);
+    /// Path of the photo that a save stores. A waiting picture of the camera is copied to where the customer's photo
+    /// belongs; raises when it can't be.
+    QString pathToStore(double codigo);
 
 private:
     void cmdwebcam_Click();
     void cmdadd_Click();
-    void cmdremover_Click();
     void showWebcamPicture(const QString &file);
 
     Form &m_form;

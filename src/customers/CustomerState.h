@@ -15,10 +15,8 @@ struct CustomerState
     QString CaminhoFoto = Placeholder::NoPhoto;
     /// 65535 when the next save takes the photo of the camera.
     quint16 FotoWebcam = 0;
-    /// 1 when the customer of the last save was authorised.
-    quint8 Autorizado = 0;
     qint16 TotalClientes = 0;
-    /// Columns of the list: the last one clicked, and the one that it was last sorted by.
+    /// Columns of the list: the last one clicked, and the one that it was last sorted by, which nothing asks for.
     quint8 ColunaClicada = 0;
     quint8 ColunaOrdenada = 0;
     /// Rows of the list: the one picked last and the one under edit; 0 for none.

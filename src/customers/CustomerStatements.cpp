@@ -1,18 +1,12 @@
 #include "customers/CustomerStatements.h"
 
-#include "customers/CustomerState.h"
+#include "customers/Customer.h"
 #include "platform/text/Numbers.h"
-#include "ui_frmcadastro_clientes.h"
 
 namespace {
-QString upper(const QString &text)
+QString flag(bool set)
 {
-    return text.toUpper();
-}
-
-QString flag(const QCheckBox *box)
-{
-    return box->isChecked() ? "1" : "0";
+    return set ? "1" : "0";
 }
 
 const QStringList tablesWithNick{"Lista_espera",      "Log",           "Clientes_Bloqueados",
@@ -27,56 +21,44 @@ QStringList statements(const QStringList &tables, const QString &change)
 }
 } // namespace
 
-QString insertStatement(const Ui::frmcadastro_clientes &form, const CustomerState &state, double codigo)
+QString insertStatement(const Customer &customer, double codigo)
 {
-    const QStringList texts{upper(form.txtnome->text()),
-                            upper(form.txtdata_nascimento->text()),
-                            upper(form.txtrua->text()),
-                            upper(form.txtnumero->text()),
-                            upper(form.txtComplemento->text()),
-                            upper(form.txtbairro->text()),
-                            upper(form.txtcidade->text()),
-                            upper(form.cmbUF->Text()),
-                            upper(form.txttel_residencial->text()),
-                            upper(form.txttel_comercial->text()),
-                            upper(form.txttel_celular->text()),
-                            form.txtmail->text(),
-                            form.txtobs->text(),
-                            upper(form.txtCep->text()),
-                            upper(form.cmbgrupo_clientes->Text()),
-                            upper(form.txtnick->text()),
-                            upper(form.txtfiliação->text()),
-                            upper(form.txtdocumento->text())};
+    const Customer row = customer.stored();
+    const QStringList texts{row.Nome,          row.Data_Nasc,   row.Rua,
+                            row.Numero,        row.Complemento, row.Bairro,
+                            row.Cidade,        row.UF,          row.Tel_Residencial,
+                            row.Tel_Comercial, row.Tel_Celular, row.E_Mail,
+                            row.Obs,           row.CEP,         row.Grupo,
+                            row.Nick,          row.Filiacao,    row.Documento};
     return "Insert into Clientes (Codigo, Nome, Data_Nasc, Rua, Numero, Complemento, Bairro, Cidade, "
            "UF,Tel_Residencial,Tel_Comercial,Tel_Celular,E_mail,Obs,CEP,Grupo,Nick, Filiacao, Documento, Autorizado, "
            "CaminhoFoto, MsgObs) values (" +
-           Cstr(codigo) + ",'" + texts.join("','") + "'," + QString::number(state.Autorizado) + ",'" +
-           upper(state.CaminhoFoto) + "'," + flag(form.chkobs) + ")";
+           Cstr(codigo) + ",'" + texts.join("','") + "'," + flag(row.Autorizado) + ",'" + row.CaminhoFoto + "'," +
+           flag(row.MsgObs) + ")";
 }
 
-QString updateStatement(const Ui::frmcadastro_clientes &form, const CustomerState &state)
+QString updateStatement(const Customer &customer, double codigo)
 {
-    return "Update Clientes Set Nome = '" + upper(form.txtnome->text()) + "', Data_Nasc ='" +
-           upper(form.txtdata_nascimento->text()) + "',Rua = '" + upper(form.txtrua->text()) + "', Numero='" +
-           upper(form.txtnumero->text()) + "', Complemento='" + upper(form.txtComplemento->text()) + "', Bairro='" +
-           upper(form.txtbairro->text()) + "', Cidade='" + upper(form.txtcidade->text()) + "', UF='" +
-           upper(form.cmbUF->Text()) + "', Tel_Residencial='" + upper(form.txttel_residencial->text()) +
-           "', Tel_Comercial='" + upper(form.txttel_comercial->text()) + "', Tel_Celular='" +
-           upper(form.txttel_celular->text()) + "', E_mail='" + form.txtmail->text() + "', Obs='" +
-           form.txtobs->text() + "', Grupo='" + upper(form.cmbgrupo_clientes->Text()) + "', Nick='" +
-           upper(form.txtnick->text()) + "', CEP='" + upper(form.txtCep->text()) + "', CaminhoFoto='" +
-           upper(state.CaminhoFoto) + "', MsgObs=" + flag(form.chkobs) + ", Filiacao='" +
-           upper(form.txtfiliação->text()) + "', Documento='" + upper(form.txtdocumento->text()) +
-           "', Autorizado=" + QString::number(state.Autorizado) + " Where Codigo = " + Cstr(state.CodigoCliente);
+    const Customer row = customer.stored();
+    return "Update Clientes Set Nome = '" + row.Nome + "', Data_Nasc ='" + row.Data_Nasc + "',Rua = '" + row.Rua +
+           "', Numero='" + row.Numero + "', Complemento='" + row.Complemento + "', Bairro='" + row.Bairro +
+           "', Cidade='" + row.Cidade + "', UF='" + row.UF + "', Tel_Residencial='" + row.Tel_Residencial +
+           "', Tel_Comercial='" + row.Tel_Comercial + "', Tel_Celular='" + row.Tel_Celular + "', E_mail='" +
+           row.E_Mail + "', Obs='" + row.Obs + "', Grupo='" + row.Grupo + "', Nick='" + row.Nick + "', CEP='" +
+           row.CEP + "', CaminhoFoto='" + row.CaminhoFoto + "', MsgObs=" + flag(row.MsgObs) + ", Filiacao='" +
+           row.Filiacao + "', Documento='" + row.Documento + "', Autorizado=" + flag(row.Autorizado) +
+           " Where Codigo = " + Cstr(codigo);
 }
 
-QStringList renameStatements(const QString &newName, const QString &oldName)
+QStringList carryOverStatements(const Customer &customer, const QString &oldName, const QString &oldNick)
 {
-    return statements(QStringList("Links") + tablesWithNick,
-                      "Nome='" + upper(newName) + "' Where Nome = '" + upper(oldName) + "'");
-}
-
-QStringList nickStatements(const QString &newNick, const QString &name)
-{
-    return statements(tablesWithNick, "Nick='" + upper(newNick) + "' Where Nome = '" + upper(name) + "'");
+    const Customer row = customer.stored();
+    QStringList result;
+    if (row.Nome != oldName.toUpper())
+        result += statements(QStringList("Links") + tablesWithNick,
+                             "Nome='" + row.Nome + "' Where Nome = '" + oldName.toUpper() + "'");
+    // The customer bears the new name there by then.
+    if (row.Nick != oldNick.toUpper())
+        result += statements(tablesWithNick, "Nick='" + row.Nick + "' Where Nome = '" + row.Nome + "'");
+    return result;
 }

@@ -1,46 +1,46 @@
 #include "customers/CustomerUniqueness.h"
 
 #include "customers/CustomerTexts.h"
+#include "data/Placeholders.h"
 #include "data/Queries.h"
-#include "ui_frmcadastro_clientes.h"
 
 namespace {
-/// The refusal is put together from the value and the name of the customer who has it.
-template <typename Refusal>
-bool isTaken(const QString &field, TextBox *box, const QString &others, Refusal refusal)
+const QString documentField = "Documento";
+
+/// `others` narrows the search, as " AND …". Of a document it is told whose it is.
+bool isTaken(const QString &field, const QString &typed, const QString &key, const QString &others = {})
 {
-    const QString value = box->text().toUpper();
+    const QString value = typed.toUpper();
     QString owner;
     if (!OrRaise::readFirstRow("Select Nome From Clientes Where " + field + "='" + value + "'" + others,
                                [&](const Recordset &rs) { owner = rs.Fields("Nome").text(); }))
         return false;
-    customerTexts.noticeText(refusal(value, owner));
-    box->setFocus();
+    const QString refusal = customerTexts.text(key) + value;
+    customerTexts.noticeText(field == documentField
+                                 ? refusal + customerTexts.text("MsgBox8_2") + owner
+                                 : refusal + customerTexts.text("MsgBox6_2") + value + customerTexts.text("MsgBox6_3"));
     return true;
-}
-
-auto inUse(const QString &key)
-{
-    return [key](const QString &value, const QString &) {
-        return customerTexts.text(key) + value + customerTexts.text("MsgBox6_2") + value +
-               customerTexts.text("MsgBox6_3");
-    };
 }
 } // namespace
 
-bool isNameTaken(const Ui::frmcadastro_clientes &form)
+CustomerText takenTextOfNew(const Customer &customer)
 {
-    return isTaken("Nome", form.txtnome, {}, inUse("MsgBox6"));
+    if (isTaken("Nome", customer.Nome, "MsgBox6"))
+        return &Customer::Nome;
+    if (isTaken("Nick", customer.Nick, "MsgBox7"))
+        return &Customer::Nick;
+    return isTaken(documentField, customer.Documento, "MsgBox8") ? &Customer::Documento : nullptr;
 }
 
-bool isNickTaken(const Ui::frmcadastro_clientes &form, const QString &others)
+CustomerText takenTextOfEdited(const Customer &customer, const QString &oldName)
 {
-    return isTaken("Nick", form.txtnick, others, inUse("MsgBox7"));
-}
-
-bool isDocumentTaken(const Ui::frmcadastro_clientes &form, const QString &others)
-{
-    return isTaken("Documento", form.txtdocumento, others, [](const QString &value, const QString &owner) {
-        return customerTexts.text("MsgBox8") + value + customerTexts.text("MsgBox8_2") + owner;
-    });
+    const bool renamed = customer.Nome.toUpper() != oldName.toUpper();
+    if (renamed && isTaken("Nome", customer.Nome, "MsgBox6"))
+        return &Customer::Nome;
+    const QString others = " AND Nome <> '" + (renamed ? oldName : customer.Nome) + "'";
+    if (isTaken("Nick", customer.Nick, "MsgBox7", others + " AND Nick <> '" + Placeholder::NoName + "'"))
+        return &Customer::Nick;
+    const bool hasDocument = customer.Documento != Placeholder::NoName && !customer.Documento.isEmpty();
+    return hasDocument && isTaken(documentField, customer.Documento, "MsgBox8", others) ? &Customer::Documento
+                                                                                        : nullptr;
 }

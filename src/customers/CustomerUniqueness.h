@@ -1,15 +1,10 @@
 #pragma once
 
-#include <QString>
+#include "customers/Customer.h"
 
-namespace Ui {
-class frmcadastro_clientes;
-}
+// What no two customers may share. Each asks the data file for another customer with the same name, nick or document,
+// tells whose the first one found is, and returns that text; null where there is none. They raise when a query fails.
 
-// What no two customers may share. Each asks the data file for a customer with what stands in the box, tells whose it
-// is, and moves the focus to the box. `others` narrows the search, as " AND …". They raise when the
-// query fails.
-
-bool isNameTaken(const Ui::frmcadastro_clientes &form);
-bool isNickTaken(const Ui::frmcadastro_clientes &form, const QString &others = {});
-bool isDocumentTaken(const Ui::frmcadastro_clientes &form, const QString &others = {});
+CustomerText takenTextOfNew(const Customer &customer);
+/// The same of the customer under edit, who bears the old name in the data file still.
+CustomerText takenTextOfEdited(const Customer &customer, const QString &oldName);

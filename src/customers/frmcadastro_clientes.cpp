@@ -16,10 +16,10 @@ frmcadastro_clientes::frmcadastro_clientes() : ui(std::make_unique<Ui::frmcadast
 {
     ui->setupUi(this);
     ui->cmdeditar->setText(customerTexts.loaded("String10"));
-    m_form = new CustomerForm(*ui, this);
-    m_photo = new CustomerPhoto(*this, *ui, m_state);
-    m_list = new CustomerList(*ui, m_state, this);
-    m_registration = std::make_unique<CustomerRegistration>(*this, *ui, m_state, *m_form, *m_list, *m_photo);
+    m_form = std::make_unique<CustomerForm>(*ui);
+    m_photo = std::make_unique<CustomerPhoto>(*this, *ui, m_state);
+    m_list = std::make_unique<CustomerList>(*ui, m_state);
+    m_registration = std::make_unique<CustomerRegistration>(*this, *m_form, *m_list, *m_photo);
     m_editing = std::make_unique<CustomerEditing>(*ui, m_state, *m_form, *m_list, *m_photo);
 
     connect(ui->cmdok, &QPushButton::clicked, this, [this] { m_registration->cmdok_Click(); });

@@ -37,11 +37,12 @@ protected:
 private:
     void cmdexcluir_Click();
 
+    // What works on the controls goes before them.
     std::unique_ptr<Ui::frmcadastro_clientes> ui;
     CustomerState m_state;
-    CustomerForm *m_form;
-    CustomerPhoto *m_photo;
-    CustomerList *m_list;
+    std::unique_ptr<CustomerForm> m_form;
+    std::unique_ptr<CustomerPhoto> m_photo;
+    std::unique_ptr<CustomerList> m_list;
     std::unique_ptr<CustomerRegistration> m_registration;
     std::unique_ptr<CustomerEditing> m_editing;
 };
