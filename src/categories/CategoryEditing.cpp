@@ -10,8 +10,6 @@
 #include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
-#include "platform/window/Look.h"
-#include "platform/window/Prompts.h"
 #include "ui_frmcadastro_categoria.h"
 
 namespace {
@@ -23,7 +21,12 @@ void executeIgnoringErrors(const QString &sql)
 } // namespace
 
 CategoryEditing::CategoryEditing(Ui::frmcadastro_categoria &window, CategoryState &state, CategoryList &list)
-    : ui(window), m_state(state), m_list(list)
+    : TwoPressEdit(categoryTexts,
+                   {.resting = "String5", .editing = "String6", .question = "MsgBox5", .title = "MsgBox5_2"},
+                   *window.cmdeditar, *window.frame_cadastro, {window.cmdremover, window.cmdadicionar})
+    , ui(window)
+    , m_state(state)
+    , m_list(list)
 {
 }
 
@@ -35,15 +38,7 @@ void CategoryEditing::cmdadicionar_Click()
     });
 }
 
-void CategoryEditing::cmdeditar_Click()
-{
-    if (ui.cmdeditar->text() == categoryTexts.loaded("String5"))
-        begin();
-    else if (!categoryTexts.confirms("MsgBox5", "MsgBox5_2", vbQuestion) || save())
-        rest();
-}
-
-void CategoryEditing::rest()
+void CategoryEditing::end()
 {
     ui.txtnome->setText({});
     ui.chkpadrao->setChecked(false);
@@ -148,12 +143,4 @@ void CategoryEditing::takeDefault(const QString &name)
 {
     m_state.CategoriaPadrao = name;
     storeDefaultCategory(name);
-}
-
-void CategoryEditing::setUnderEdit(bool underEdit)
-{
-    for (QPushButton *button : {ui.cmdremover, ui.cmdadicionar})
-        button->setEnabled(!underEdit);
-    ui.cmdeditar->setText(categoryTexts.loaded(underEdit ? "String6" : "String5"));
-    setCardState(*ui.frame_cadastro, underEdit ? CardState::Editing : CardState::Resting);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "windows/TwoPressEdit.h"
+
 #include <QString>
 
 struct CategoryState;
@@ -8,17 +10,13 @@ namespace Ui {
 class frmcadastro_categoria;
 }
 
-/// Stores what is in the form: as a new category, or as the one under edit, which one press of the button begins and
-/// the next one saves.
-class CategoryEditing
+/// Stores what is in the form: as a new category, or as the one under edit.
+class CategoryEditing : public TwoPressEdit
 {
 public:
     CategoryEditing(Ui::frmcadastro_categoria &window, CategoryState &state, CategoryList &list);
 
     void cmdadicionar_Click();
-    void cmdeditar_Click();
-    /// Nothing under edit.
-    void rest();
 
 private:
     QString typedName() const;
@@ -27,13 +25,12 @@ private:
     /// Whether another category has the name, which is told.
     bool isTaken(const QString &condition);
     void store();
-    void begin();
-    /// False when a refusal leaves the edit open.
-    bool save();
+    void begin() override;
+    bool save() override;
+    void end() override;
     void carryOver(const QString &name);
     void settleDefault(const QString &name);
     void takeDefault(const QString &name);
-    void setUnderEdit(bool underEdit);
 
     Ui::frmcadastro_categoria &ui;
     CategoryState &m_state;

@@ -16,7 +16,6 @@ frmcadastro_categoria::frmcadastro_categoria() : ui(std::make_unique<Ui::frmcada
     m_list = new CategoryList(*ui, m_state, this);
     m_editing = std::make_unique<CategoryEditing>(*ui, m_state, *m_list);
 
-    m_editing->rest();
     enterMovesTo(ui->txtnome, ui->chkpadrao);
     connect(ui->cmdadicionar, &QPushButton::clicked, this, [this] { m_editing->cmdadicionar_Click(); });
     connect(ui->cmdeditar, &QPushButton::clicked, this, [this] { m_editing->cmdeditar_Click(); });

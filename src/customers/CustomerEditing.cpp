@@ -15,22 +15,19 @@
 #include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
-#include "platform/window/Look.h"
-#include "platform/window/Prompts.h"
 #include "ui_frmcadastro_clientes.h"
 
 CustomerEditing::CustomerEditing(Ui::frmcadastro_clientes &window, CustomerState &state, CustomerForm &form,
                                  CustomerList &list, CustomerPhoto &photo)
-    : ui(window), m_state(state), m_form(form), m_list(list), m_photo(photo)
+    : TwoPressEdit(customerTexts,
+                   {.resting = "String10", .editing = "String11", .question = "MsgBox5", .title = "MsgBox5_2"},
+                   *window.cmdeditar, *window.frame_cadastro, {window.cmdexcluir, window.cmdok, window.cmdordenar})
+    , ui(window)
+    , m_state(state)
+    , m_form(form)
+    , m_list(list)
+    , m_photo(photo)
 {
-}
-
-void CustomerEditing::cmdeditar_Click()
-{
-    if (ui.cmdeditar->text() == customerTexts.loaded("String10"))
-        begin();
-    else if (!customerTexts.confirms("MsgBox5", "MsgBox5_2", vbQuestion) || save())
-        end();
 }
 
 void CustomerEditing::begin()
@@ -84,12 +81,4 @@ void CustomerEditing::end()
     m_form.takeTownOfCafe();
     setUnderEdit(false);
     m_state.LinhaEditada = 0;
-}
-
-void CustomerEditing::setUnderEdit(bool underEdit)
-{
-    for (QPushButton *button : {ui.cmdexcluir, ui.cmdok, ui.cmdordenar})
-        button->setEnabled(!underEdit);
-    ui.cmdeditar->setText(customerTexts.loaded(underEdit ? "String11" : "String10"));
-    setCardState(*ui.frame_cadastro, underEdit ? CardState::Editing : CardState::Resting);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "windows/TwoPressEdit.h"
+
 struct CustomerState;
 class CustomerForm;
 class CustomerList;
@@ -8,24 +10,20 @@ namespace Ui {
 class frmcadastro_clientes;
 }
 
-/// Edits a registered customer: one press of the button begins, the next one saves.
-class CustomerEditing
+/// Edits a registered customer. Has no trap: a statement that fails ends the program, and what was executed stays.
+class CustomerEditing : public TwoPressEdit
 {
 public:
     CustomerEditing(Ui::frmcadastro_clientes &window, CustomerState &state, CustomerForm &form, CustomerList &list,
                     CustomerPhoto &photo);
 
-    /// Has no trap: a statement that fails ends the program, and what was executed stays.
-    void cmdeditar_Click();
     /// Shows a customer in the form.
     void EditarCliente(double codigo);
 
 private:
-    void begin();
-    /// False when a refusal leaves the edit open.
-    bool save();
-    void end();
-    void setUnderEdit(bool underEdit);
+    void begin() override;
+    bool save() override;
+    void end() override;
 
     Ui::frmcadastro_clientes &ui;
     CustomerState &m_state;

@@ -15,7 +15,6 @@
 frmcadastro_clientes::frmcadastro_clientes() : ui(std::make_unique<Ui::frmcadastro_clientes>())
 {
     ui->setupUi(this);
-    ui->cmdeditar->setText(customerTexts.loaded("String10"));
     m_form = std::make_unique<CustomerForm>(*ui);
     m_photo = std::make_unique<CustomerPhoto>(*this, *ui, m_state);
     m_list = std::make_unique<CustomerList>(*ui, m_state);

@@ -5,8 +5,6 @@
 #include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
-#include "platform/window/Look.h"
-#include "platform/window/Prompts.h"
 #include "products/ProductColumns.h"
 #include "products/ProductForm.h"
 #include "products/ProductList.h"
@@ -19,16 +17,16 @@
 
 ProductEditing::ProductEditing(Ui::frmcadastro_produtos &window, ProductState &state, ProductForm &form,
                                ProductList &list)
-    : ui(window), m_state(state), m_form(form), m_list(list)
+    : TwoPressEdit(productTexts,
+                   {.resting = "String7", .editing = "String8", .question = "MsgBox14", .title = "MsgBox11_2"},
+                   *window.cmdeditar, *window.frame_cadastro,
+                   // The sales refer to the description, so that it never changes.
+                   {window.cmdcategoria, window.cmdadicionar, window.cmdremover, window.txtdescrição})
+    , ui(window)
+    , m_state(state)
+    , m_form(form)
+    , m_list(list)
 {
-}
-
-void ProductEditing::cmdeditar_Click()
-{
-    if (ui.cmdeditar->text() == productTexts.loaded("String7"))
-        begin();
-    else if (!productTexts.confirms("MsgBox14", "MsgBox11_2", vbQuestion) || save())
-        end();
 }
 
 void ProductEditing::begin()
@@ -71,14 +69,4 @@ void ProductEditing::end()
 {
     setUnderEdit(false);
     m_form.clear();
-}
-
-void ProductEditing::setUnderEdit(bool underEdit)
-{
-    for (QPushButton *button : {ui.cmdcategoria, ui.cmdadicionar, ui.cmdremover})
-        button->setEnabled(!underEdit);
-    // The sales refer to the description, so that it never changes.
-    ui.txtdescrição->setEnabled(!underEdit);
-    ui.cmdeditar->setText(productTexts.loaded(underEdit ? "String8" : "String7"));
-    setCardState(*ui.frame_cadastro, underEdit ? CardState::Editing : CardState::Resting);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "windows/TwoPressEdit.h"
+
 class ProductForm;
 class ProductList;
 struct ProductState;
@@ -7,20 +9,15 @@ namespace Ui {
 class frmcadastro_produtos;
 }
 
-/// Edits a product: one press of the button begins, the next one saves.
-class ProductEditing
+class ProductEditing : public TwoPressEdit
 {
 public:
     ProductEditing(Ui::frmcadastro_produtos &window, ProductState &state, ProductForm &form, ProductList &list);
 
-    void cmdeditar_Click();
-
 private:
-    void begin();
-    /// False when a refusal leaves the edit open.
-    bool save();
-    void end();
-    void setUnderEdit(bool underEdit);
+    void begin() override;
+    bool save() override;
+    void end() override;
 
     Ui::frmcadastro_produtos &ui;
     ProductState &m_state;

@@ -18,7 +18,6 @@
 frmcadastro_produtos::frmcadastro_produtos() : ui(std::make_unique<Ui::frmcadastro_produtos>())
 {
     ui->setupUi(this);
-    ui->cmdeditar->setText(productTexts.loaded("String7"));
     m_form = new ProductForm(*ui, this);
     m_list = new ProductList(*ui, m_state, this);
     m_editing = std::make_unique<ProductEditing>(*ui, m_state, *m_form, *m_list);
