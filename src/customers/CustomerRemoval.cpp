@@ -16,15 +16,6 @@
 #include <algorithm>
 
 namespace {
-/// The customers go first, the codes before the links through which they are found.
-void execute(const QString &codes, const QString &names)
-{
-    executeStatement("DELETE FROM Clientes WHERE " + codes);
-    executeStatement("Delete from Codigo_Acesso WHERE Codigo_Acesso in (Select Codigo_Acesso from Links Where " +
-                     names + ")");
-    executeStatement("Delete from Links Where " + names);
-}
-
 void removeRows(const FlexGrid &grid, int first, int last)
 {
     QStringList codes;
@@ -33,7 +24,11 @@ void removeRows(const FlexGrid &grid, int first, int last)
         codes += "Codigo=" + grid.TextMatrix(row, CustomerColumn::Codigo);
         names += "Nome='" + grid.TextMatrix(row, CustomerColumn::Name) + "'";
     }
-    execute(codes.join(" OR "), names.join(" OR "));
+    const QString links = "Links Where " + names.join(" OR ");
+    executeStatement("DELETE FROM Clientes WHERE " + codes.join(" OR "));
+    // Before the links through which they are found.
+    executeStatement("Delete from Codigo_Acesso WHERE Codigo_Acesso in (Select Codigo_Acesso from " + links + ")");
+    executeStatement("Delete from " + links);
 }
 } // namespace
 
