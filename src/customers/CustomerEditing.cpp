@@ -32,10 +32,8 @@ CustomerEditing::CustomerEditing(Ui::frmcadastro_clientes &window, CustomerState
 
 void CustomerEditing::begin()
 {
-    if (m_state.LinhaSelecionada < 1 || ui.tab_clientes->RowSel() < 1) {
-        customerTexts.notice("MsgBox4");
-        return;
-    }
+    if (m_state.LinhaSelecionada < 1 || ui.tab_clientes->RowSel() < 1)
+        return customerTexts.notice("MsgBox4");
     m_state.CodigoCliente = Val(ui.tab_clientes->TextMatrix(m_state.LinhaSelecionada, CustomerColumn::Codigo));
     m_state.LinhaEditada = m_state.LinhaSelecionada;
     EditarCliente(m_state.CodigoCliente);

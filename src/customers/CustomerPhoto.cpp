@@ -2,7 +2,6 @@
 
 #include "configuration/Arquivos.h"
 #include "configuration/Globais.h"
-#include "customers/CustomerState.h"
 #include "customers/CustomerTexts.h"
 #include "photo/frmwebcam.h"
 #include "platform/base/Err.h"
@@ -17,8 +16,7 @@ namespace {
 constexpr quint16 pictureWaits = 65535;
 } // namespace
 
-CustomerPhoto::CustomerPhoto(Form &form, Ui::frmcadastro_clientes &window, CustomerState &state)
-    : m_form(form), ui(window), m_state(state)
+CustomerPhoto::CustomerPhoto(Form &form, Ui::frmcadastro_clientes &window) : m_form(form), ui(window)
 {
     connect(ui.cmdwebcam, &QPushButton::clicked, this, &CustomerPhoto::cmdwebcam_Click);
     connect(ui.cmdadd, &QPushButton::clicked, this, &CustomerPhoto::cmdadd_Click);
@@ -27,8 +25,8 @@ CustomerPhoto::CustomerPhoto(Form &form, Ui::frmcadastro_clientes &window, Custo
 
 void CustomerPhoto::forget()
 {
-    m_state.FotoWebcam = 0;
-    m_state.CaminhoFoto = Placeholder::NoPhoto;
+    FotoWebcam = 0;
+    CaminhoFoto = Placeholder::NoPhoto;
     ui.imgfoto->showNobody();
     OnErrorResumeNext([] {
         if (Existe_Arquivo(caminhoFototemp()))
@@ -38,20 +36,20 @@ void CustomerPhoto::forget()
 
 void CustomerPhoto::showStored(const Recordset &customer)
 {
-    // What is shown here isn't what the next save stores. That stays.
-    m_state.CaminhoFoto = Placeholder::NoPhoto;
+    // Though it is shown, a save without a new one clears its path. That stays.
+    CaminhoFoto = Placeholder::NoPhoto;
     ui.imgfoto->showStored(customer.Fields("CaminhoFoto").text());
 }
 
 QString CustomerPhoto::pathToStore(double codigo)
 {
-    if (m_state.FotoWebcam != pictureWaits)
-        return m_state.CaminhoFoto;
+    if (FotoWebcam != pictureWaits)
+        return CaminhoFoto;
     const QString target = Pasta_Do_Arquivo(CaminhoBD) + "\\Fotos\\" + Cstr(codigo) + ".jpg";
     if (Existe_Arquivo(target))
         Kill(target);
     FileCopy(caminhoFototemp(), target, arquivoModelo(target));
-    m_state.CaminhoFoto = target;
+    CaminhoFoto = target;
     return target;
 }
 
@@ -59,7 +57,7 @@ void CustomerPhoto::cmdwebcam_Click()
 {
     m_form.setMousePointer(vbHourglass);
     // Set before anything was captured, and left so by a cancelled capture: the next save then fails. It stays.
-    m_state.FotoWebcam = pictureWaits;
+    FotoWebcam = pictureWaits;
     auto &window = Forms::use<frmwebcam>();
     connect(&window, &frmwebcam::confirmed, this, &CustomerPhoto::showWebcamPicture, Qt::UniqueConnection);
     window.Show();
@@ -73,7 +71,7 @@ void CustomerPhoto::showWebcamPicture(const QString &file)
 
 void CustomerPhoto::cmdadd_Click()
 {
-    m_state.FotoWebcam = 0;
+    FotoWebcam = 0;
     FileDialog caixa_dialogo;
     caixa_dialogo.InitDir = Pasta_Do_Arquivo(CaminhoBD) + "\\Fotos";
     caixa_dialogo.Filter = "Todas as imagens(*.*) |*.bmp;*.jpg;*.gif| Arquivos JPG (*.jpg) |*.jpg|"
@@ -82,7 +80,7 @@ void CustomerPhoto::cmdadd_Click()
     caixa_dialogo.ShowOpen();
     if (caixa_dialogo.FileName.isEmpty() || !Existe_Arquivo(caixa_dialogo.FileName))
         return;
-    m_state.CaminhoFoto = caixa_dialogo.FileName;
+    CaminhoFoto = caixa_dialogo.FileName;
     if (!OnErrorResumeNext([&] { ui.imgfoto->showFile(caixa_dialogo.FileName); }))
         customerTexts.notice("MsgBox26");
 }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "data/Placeholders.h"
+
 #include <QObject>
 
-struct CustomerState;
 class Form;
 class Recordset;
 namespace Ui {
@@ -15,11 +16,11 @@ class CustomerPhoto : public QObject
     Q_OBJECT
 
 public:
-    CustomerPhoto(Form &form, Ui::frmcadastro_clientes &window, CustomerState &state);
+    CustomerPhoto(Form &form, Ui::frmcadastro_clientes &window);
 
     /// No photo, neither shown nor waiting.
     void forget();
-    /// Shows the photo of a stored customer, whose path a save without a new one clears all the same.
+    /// Shows the photo of a stored customer.
     void showStored(const Recordset &customer);
     /// Path of the photo that a save stores. A waiting picture of the camera is copied to where the customer's photo
     /// belongs; raises when it can't be.
@@ -32,5 +33,8 @@ private:
 
     Form &m_form;
     Ui::frmcadastro_clientes &ui;
-    CustomerState &m_state;
+    /// Path of the photo that the next save stores.
+    QString CaminhoFoto = Placeholder::NoPhoto;
+    /// 65535 when the next save takes the photo of the camera.
+    quint16 FotoWebcam = 0;
 };

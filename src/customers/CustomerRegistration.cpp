@@ -76,10 +76,8 @@ void CustomerRegistration::store(Customer customer, double codigo)
 
 void CustomerRegistration::sellCode(const Customer &customer)
 {
-    if (Tem_Link(customer.Nome.toUpper())) {
-        customerTexts.notice("MsgBox3");
-        return;
-    }
+    if (Tem_Link(customer.Nome.toUpper()))
+        return customerTexts.notice("MsgBox3");
     Sempre_No_Topo(m_window, false);
     auto &window = Forms::use<frmcodigo_rapido>();
     window.Venda_ao_Cliente(customer.Nome, customer.Nick);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "data/Placeholders.h"
-
 #include <QString>
 
 /// What the customers' window remembers as long as it is open.
@@ -11,10 +9,6 @@ struct CustomerState
     double CodigoCliente = 0;
     QString NomeAntigo;
     QString NickAntigo;
-    /// Path of the photo that the next save stores.
-    QString CaminhoFoto = Placeholder::NoPhoto;
-    /// 65535 when the next save takes the photo of the camera.
-    quint16 FotoWebcam = 0;
     qint16 TotalClientes = 0;
     /// Columns of the list: the last one clicked, and the one that it was last sorted by, which nothing asks for.
     quint8 ColunaClicada = 0;

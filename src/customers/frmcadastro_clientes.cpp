@@ -16,7 +16,7 @@ frmcadastro_clientes::frmcadastro_clientes() : ui(std::make_unique<Ui::frmcadast
 {
     ui->setupUi(this);
     m_form = std::make_unique<CustomerForm>(*ui);
-    m_photo = std::make_unique<CustomerPhoto>(*this, *ui, m_state);
+    m_photo = std::make_unique<CustomerPhoto>(*this, *ui);
     m_list = std::make_unique<CustomerList>(*ui, m_state);
     m_registration = std::make_unique<CustomerRegistration>(*this, *m_form, *m_list, *m_photo);
     m_editing = std::make_unique<CustomerEditing>(*ui, m_state, *m_form, *m_list, *m_photo);
