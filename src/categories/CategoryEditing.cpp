@@ -5,7 +5,6 @@
 #include "categories/CategoryState.h"
 #include "categories/CategoryTexts.h"
 #include "categories/DefaultCategory.h"
-#include "data/Acesso_BD.h"
 #include "data/Queries.h"
 #include "data/Statements.h"
 #include "platform/base/Err.h"

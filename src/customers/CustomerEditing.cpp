@@ -1,7 +1,5 @@
 #include "customers/CustomerEditing.h"
 
-#include "configuration/Arquivos.h"
-#include "configuration/Arquivos_INI.h"
 #include "customers/CustomerColumns.h"
 #include "customers/CustomerForm.h"
 #include "customers/CustomerList.h"
@@ -10,10 +8,8 @@
 #include "customers/CustomerStatements.h"
 #include "customers/CustomerTexts.h"
 #include "customers/CustomerUniqueness.h"
-#include "data/Acesso_BD.h"
 #include "data/Queries.h"
 #include "data/Statements.h"
-#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "ui_frmcadastro_clientes.h"
 

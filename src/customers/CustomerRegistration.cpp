@@ -7,7 +7,6 @@
 #include "customers/CustomerStatements.h"
 #include "customers/CustomerTexts.h"
 #include "customers/CustomerUniqueness.h"
-#include "data/Acesso_BD.h"
 #include "data/Lookups.h"
 #include "data/Placeholders.h"
 #include "data/Queries.h"

@@ -7,7 +7,6 @@
 #include "customers/CustomerPrintouts.h"
 #include "customers/CustomerRegistration.h"
 #include "customers/CustomerRemoval.h"
-#include "customers/CustomerTexts.h"
 #include "data/Acesso_BD.h"
 #include "platform/base/Err.h"
 #include "ui_frmcadastro_clientes.h"

@@ -1,7 +1,6 @@
 #include "products/ProductEditing.h"
 
 #include "categories/CategoryOfSales.h"
-#include "data/Acesso_BD.h"
 #include "data/Statements.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
