@@ -6,7 +6,7 @@
 #include "platform/print/Printer.h"
 
 #include <QPainter>
-#include <QPrinter>
+#include <QPdfWriter>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 
@@ -32,12 +32,9 @@ double secondsOfSheet(const QStringList &codes)
 double secondsOfBareSheet(const QStringList &codes, const QString &file)
 {
     return secondsOf([&] {
-        QPrinter printer(QPrinter::HighResolution);
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(file);
-        printer.setPageSize(QPageSize(QPageSize::A4));
-        printer.setFullPage(true);
-        QPainter painter(&printer);
+        QPdfWriter sheet(file);
+        sheet.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}));
+        QPainter painter(&sheet);
         QFont font("Courier New");
         font.setFamilies({"Courier New", "Liberation Mono"});
         font.setPointSize(16);

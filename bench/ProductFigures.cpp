@@ -20,7 +20,7 @@
 #include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPrinter>
+#include <QPdfWriter>
 
 #include <memory>
 #include <string>
@@ -106,19 +106,16 @@ Quartiles ratioOfEdit(BareFile &file)
 class BarePages
 {
 public:
-    explicit BarePages(const QString &file) : m_printer(QPrinter::HighResolution)
+    explicit BarePages(const QString &file) : m_sheets(file)
     {
-        m_printer.setOutputFormat(QPrinter::PdfFormat);
-        m_printer.setOutputFileName(file);
-        m_printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}));
-        m_printer.setFullPage(true);
+        m_sheets.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}));
         QFont font;
         font.setFamilies({"Courier New", "Liberation Mono"});
         font.setHintingPreference(QFont::PreferNoHinting);
         font.setPixelSize(200);
         m_ascent = QFontMetricsF(font).ascent();
-        m_painter.begin(&m_printer);
-        const double scale = m_printer.resolution() / 1440.0;
+        m_painter.begin(&m_sheets);
+        const double scale = m_sheets.resolution() / 1440.0;
         m_painter.scale(scale, scale);
         m_painter.setFont(font);
     }
@@ -141,7 +138,7 @@ private:
     void printHead(int page)
     {
         if (page > 1)
-            m_printer.newPage();
+            m_sheets.newPage();
         draw(0, 0, m_heading);
         draw(88, 0, "Pág." + QString::number(page));
         draw(0, 1, m_rule);
@@ -152,7 +149,7 @@ private:
     }
     static QString label(const QString &number) { return productTexts.text("DispositivoSaida" + number); }
 
-    QPrinter m_printer;
+    QPdfWriter m_sheets;
     QPainter m_painter;
     double m_ascent = 0;
     const QString m_rule = QString(95, '*');

@@ -30,6 +30,7 @@ void setUpSheet(Printer &printer)
     printer.setPageSize(a4Width, a4Height);
     printer.setScaleMode(ScaleMode::Twips);
     printer.setDocumentName("Etiquetas");
+    printer.keepScale();
 }
 
 /// Brings the text into the form that the code takes, too.

@@ -4,7 +4,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPrinter>
+#include <QPdfWriter>
 
 namespace {
 
@@ -34,22 +34,23 @@ void paintPage(const RecordedPage &page, QPainter &painter)
 
 } // namespace
 
-bool paintPages(const QList<RecordedPage> &pages, QPrinter &printer)
+bool paintPages(const QList<RecordedPage> &pages, QPdfWriter &sheets, const QTransform &placing)
 {
     QPainter painter;
-    if (!painter.begin(&printer))
+    if (!painter.begin(&sheets))
         return false;
     bool first = true;
     for (const RecordedPage &page : pages) {
         LongWork::goOn();
-        if (!first && !printer.newPage())
+        if (!first && !sheets.newPage())
             return false;
         first = false;
         painter.save();
-        const qreal scale = qreal(printer.resolution()) / twipsPerInch;
+        const qreal scale = qreal(sheets.resolution()) / twipsPerInch;
         painter.scale(scale, scale);
+        painter.setTransform(placing, true);
         paintPage(page, painter);
         painter.restore();
     }
-    return painter.end() && printer.printerState() != QPrinter::Error;
+    return painter.end();
 }

@@ -2,7 +2,9 @@
 
 #include "platform/print/RecordedPage.h"
 
-class QPrinter;
+#include <QTransform>
 
-/// Paints recorded pages, each on a sheet of its own. False when the device refuses.
-bool paintPages(const QList<RecordedPage> &pages, QPrinter &printer);
+class QPdfWriter;
+
+/// Paints recorded pages, each on a sheet of its own, placed as given. False when the PDF can't be written.
+bool paintPages(const QList<RecordedPage> &pages, QPdfWriter &sheets, const QTransform &placing = {});

@@ -1,15 +1,19 @@
 #include "platform/print/Printer.h"
 
 #include "platform/base/Err.h"
+#include "platform/base/LongWork.h"
 #include "platform/base/Machine.h"
 #include "platform/print/PagePainter.h"
+#include "platform/print/PagePlacing.h"
+#include "platform/print/PrintQueue.h"
+#include "platform/print/PrinterError.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFontMetricsF>
 #include <QGuiApplication>
-#include <QPrinter>
-#include <QPrinterInfo>
+#include <QPdfWriter>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -20,18 +24,19 @@ namespace {
 constexpr double twipsPerColumn = 120;
 constexpr double twipsPerLine = 240;
 
-[[noreturn]] void refuse(const QString &what)
+/// A sheet for a document that may use it up to its very edges.
+QPageLayout sheetOf(const QSizeF &twips)
 {
-    throw RunTimeError(ErrorNumber::PrinterError, "Printer error: " + what);
-}
-
-void setSheet(QPrinter &printer, int widthTwips, int heightTwips)
-{
-    const QSizeF points(double(widthTwips) / twipsPerPoint, double(heightTwips) / twipsPerPoint);
+    const QSizeF points = twips / twipsPerPoint;
     const bool wide = points.width() > points.height();
     const QPageSize size(wide ? points.transposed() : points, QPageSize::Point, {}, QPageSize::FuzzyMatch);
-    printer.setPageLayout(QPageLayout(size, wide ? QPageLayout::Landscape : QPageLayout::Portrait, {}));
-    printer.setFullPage(true);
+    return {size, wide ? QPageLayout::Landscape : QPageLayout::Portrait, {}};
+}
+
+/// The sheet in twips. Paper is measured in whole points.
+QRectF areaOf(const QPageLayout &sheet)
+{
+    return {{}, sheet.fullRect(QPageLayout::Point).size() * twipsPerPoint};
 }
 
 /// A file of that name which isn't there yet.
@@ -73,8 +78,11 @@ Printer &Printer::current()
 
 QString Printer::DeviceName() const
 {
-    if (m_deviceChooser)
-        m_deviceName = std::exchange(m_deviceChooser, nullptr)();
+    if (m_deviceChooser) {
+        m_deviceName = m_deviceChooser();
+        // One that got no answer is asked again.
+        m_deviceChooser = nullptr;
+    }
     return m_deviceName;
 }
 
@@ -134,18 +142,29 @@ void Printer::NewPage()
 
 void Printer::EndDoc()
 {
-    QList<RecordedPage> pages = std::exchange(m_pages, {});
-    const QString title = std::exchange(m_documentName, {});
+    Document document{std::exchange(m_documentName, {}), std::exchange(m_pages, {}),
+                      std::exchange(m_keepsScale, false)};
     m_currentX = m_currentY = 0;
-    while (!pages.isEmpty() && pages.last().isEmpty())
-        pages.removeLast();
-    if (pages.isEmpty())
+    while (!document.pages.isEmpty() && document.pages.last().isEmpty())
+        document.pages.removeLast();
+    if (document.pages.isEmpty())
         return;
+    const LongWork work;
     const QString device = targetDevice();
     if (device.isEmpty())
-        printToFile(title, pages);
+        printToFile(document);
     else
-        printTo(device, title, pages);
+        printTo(device, document);
+}
+
+int Printer::deviceDotsPerInch() const
+{
+    int dots = 0;
+    OnErrorResumeNext([&] {
+        if (const QString device = targetDevice(); !device.isEmpty())
+            dots = PrintQueue(device).dotsPerInch();
+    });
+    return dots;
 }
 
 QPointF Printer::toTwips(QPointF place) const
@@ -171,38 +190,40 @@ QString Printer::targetDevice() const
     return systems.isEmpty() ? Printers().value(0) : systems;
 }
 
-void Printer::printTo(const QString &device, const QString &title, const QList<RecordedPage> &pages) const
+void Printer::printTo(const QString &device, const Document &document) const
 {
-    // QPrinter takes any name for valid and would write a PDF into the current folder.
-    const QPrinterInfo info = QPrinterInfo::printerInfo(device);
-    if (info.isNull())
-        refuse(device);
-    QPrinter printer(info, QPrinter::HighResolution);
-    printer.setDocName(title);
-    setSheet(printer, m_pageWidth, m_pageHeight);
-    if (!paintPages(pages, printer))
-        refuse(device);
+    PrintQueue queue(device);
+    const QSizeF size(m_pageWidth, m_pageHeight);
+    const PrinterSheet sheet = queue.takeSheet(size);
+    const QPageLayout layout = sheetOf(sheet.size);
+    const QTransform placing = placeWithin(areaOf(layout).marginsRemoved(sheet.blankEdges), document.pages,
+                                           areaOf(sheetOf(size)), document.keepsScale);
+    QBuffer pdf;
+    QPdfWriter sheets(&pdf);
+    sheets.setPageLayout(layout);
+    sheets.setTitle(document.title);
+    if (!pdf.open(QBuffer::WriteOnly) || !paintPages(document.pages, sheets, placing))
+        raisePrinterError(device);
+    queue.print(pdf.data(), document.title);
 }
 
-void Printer::printToFile(const QString &title, const QList<RecordedPage> &pages) const
+void Printer::printToFile(const Document &document) const
 {
     const QDir folder(Machine::current().printoutFolder());
     if (!folder.mkpath("."))
-        refuse(folder.path());
-    const QString name = title.isEmpty() ? QGuiApplication::applicationDisplayName() : title;
-    const QString file = unusedFile(folder, fileName(name) + Machine::current().now().toString(" yyyy-MM-dd HHmmss"));
-    {
-        QPrinter printer(QPrinter::HighResolution);
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(file);
-        printer.setDocName(name);
-        setSheet(printer, m_pageWidth, m_pageHeight);
-        if (!paintPages(pages, printer)) {
-            QFile::remove(file);
-            refuse(file);
-        }
+        raisePrinterError(folder.path());
+    const QString name = document.title.isEmpty() ? QGuiApplication::applicationDisplayName() : document.title;
+    QFile file(unusedFile(folder, fileName(name) + Machine::current().now().toString(" yyyy-MM-dd HHmmss")));
+    QPdfWriter sheets(&file);
+    sheets.setPageLayout(sheetOf(QSizeF(m_pageWidth, m_pageHeight)));
+    sheets.setTitle(name);
+    const bool written = file.open(QFile::WriteOnly) && paintPages(document.pages, sheets) && file.flush();
+    file.close();
+    if (!written || file.error() != QFile::NoError) {
+        file.remove();
+        raisePrinterError(file.fileName());
     }
-    Machine::current().openDocument(file);
+    Machine::current().openDocument(file.fileName());
 }
 
 QStringList Printers()

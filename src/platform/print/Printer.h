@@ -19,6 +19,9 @@ constexpr int a4Height = 16838;
 
 /// The printer in force. Pages are recorded as texts and boxes, and painted once, when the document ends.
 ///
+/// A printer that leaves a sheet's edges blank gets the document moved, and shrunk where it must be, so that nothing is
+/// lost; see `placeWithin`.
+///
 /// With no printer installed the document becomes a PDF in the folder for printouts, named after the document, and is
 /// shown by the desktop.
 class Printer
@@ -36,6 +39,11 @@ public:
 
     /// What the next printout is, for the print queue and for the name of a PDF.
     void setDocumentName(const QString &name) { m_documentName = name; }
+    /// The next printout goes onto a sheet with cuts in it: it may be moved, but not shrunk.
+    void keepScale() { m_keepsScale = true; }
+
+    /// Resolution of the printer that would take a document now; 0 when it doesn't tell, or when there is none.
+    int deviceDotsPerInch() const;
 
     void setFontName(const QString &name);
     void setFontSize(double points);
@@ -65,12 +73,21 @@ private:
     QPointF toTwips(QPointF place) const;
     RecordedPage &page();
     QString targetDevice() const;
-    void printTo(const QString &device, const QString &title, const QList<RecordedPage> &pages) const;
-    void printToFile(const QString &title, const QList<RecordedPage> &pages) const;
+
+    /// What was recorded, as one printout.
+    struct Document
+    {
+        QString title;
+        QList<RecordedPage> pages;
+        bool keepsScale = false;
+    };
+    void printTo(const QString &device, const Document &document) const;
+    void printToFile(const Document &document) const;
 
     mutable QString m_deviceName;
     mutable std::function<QString()> m_deviceChooser;
     QString m_documentName;
+    bool m_keepsScale = false;
     QFont m_font;
     ScaleMode m_scaleMode = ScaleMode::Twips;
     int m_pageWidth = a4Width;

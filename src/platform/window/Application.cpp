@@ -4,13 +4,13 @@
 #include "platform/base/Machine.h"
 #include "platform/base/Patience.h"
 #include "platform/media/CameraModule.h"
+#include "platform/print/PrintQueue.h"
 #include "platform/window/BusySign.h"
 #include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
 
 #include <QIcon>
 #include <QLibraryInfo>
-#include <QPrinterInfo>
 #include <QTranslator>
 
 #include <cstdlib>
@@ -56,8 +56,8 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
         installTranslator(translator);
 
     // Asked when a window needs them: looking for printers may wait for the network.
-    Machine::current().printerNames = [] { return QPrinterInfo::availablePrinterNames(); };
-    Machine::current().defaultPrinterName = [] { return QPrinterInfo::defaultPrinterName(); };
+    Machine::current().printerNames = printQueueNames;
+    Machine::current().defaultPrinterName = defaultPrintQueue;
     Machine::current().camera = loadFirstCamera;
 }
 
