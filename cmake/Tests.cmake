@@ -1,4 +1,5 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+pkg_check_modules(ZBAR REQUIRED IMPORTED_TARGET zbar)
 # Qt tells each test its folders of test data. No test here asks for them, and they would make all headers differ.
 set_property(TARGET Qt6::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
 

@@ -1,9 +1,9 @@
 # Sourced by ./run and ./test: the packages of Debian 12 that each needs, and their installation.
 
-build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-svg-dev qt6-multimedia-dev libcups2-dev libsqlcipher-dev libturbojpeg0-dev)
+build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-private-dev qt6-svg-dev qt6-multimedia-dev libcups2-dev libsqlcipher-dev libturbojpeg0-dev libzbar-dev)
 program_packages=(qt6-translations-l10n fonts-dejavu-core fonts-liberation gstreamer1.0-plugins-good xdg-utils)
 package_packages=(dpkg-dev gzip lintian desktop-file-utils appstream man-db)
-test_packages=(git clang-format clang-tidy cups cups-client poppler-utils shellcheck zbar-tools)
+test_packages=(git clang-format clang-tidy cups cups-client poppler-utils shellcheck)
 
 # install_packages NAME...: installs what is missing, with sudo when not root.
 install_packages() {

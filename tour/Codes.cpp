@@ -75,7 +75,7 @@ void sellCode(Tour &tour)
     QStringList read;
     for (const QString &printout : tour.printouts())
         if (!printout.startsWith(textoIdioma("frmcadastro_clientes", "DispositivoSaida1")))
-            read += pdfBarcodes(tour.path(printout));
+            read += DrawnPages(tour.path(printout), softened(300)).barcodes(1);
     tour.expect("label", read.join(' '), "CODE-128:" + code);
 }
 

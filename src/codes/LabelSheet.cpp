@@ -1,6 +1,7 @@
 #include "codes/LabelSheet.h"
 
 #include "codes/AllCodes.h"
+#include "codes/BarGrid.h"
 #include "platform/print/PageScale.h"
 #include "platform/print/Printer.h"
 
@@ -51,22 +52,23 @@ void encode(const QString &tipo, QString &texto)
     }
 }
 
-void drawBars(Printer &printer, QPointF place, const BarLabels &etiquetas)
+void drawBars(Printer &printer, QPointF place, const BarGrid &grid, const BarLabels &etiquetas)
 {
+    place.setX(grid.left(place.x()));
     bool bar = true;
     for (const QChar digit : Padrao_Barras) {
-        const double width = digit.digitValue() * etiquetas.modulo;
+        const double width = grid.width(digit.digitValue() * etiquetas.modulo * (bar ? 1 : spaceStretch));
         if (bar)
-            printer.FillBox({place, QSizeF(width, etiquetas.altura)});
-        place.rx() += bar ? width : width * spaceStretch;
+            printer.FillBox(QRectF(place, QSizeF(width, etiquetas.altura)).adjusted(grid.trim(), 0, -grid.trim(), 0));
+        place.rx() += width;
         bar = !bar;
     }
 }
 
-void drawLabel(Printer &printer, QPointF place, const BarLabels &etiquetas, const QString &texto)
+void drawLabel(Printer &printer, QPointF place, const BarGrid &grid, const BarLabels &etiquetas, const QString &texto)
 {
     if (etiquetas.mostrar_barras)
-        drawBars(printer, place, etiquetas);
+        drawBars(printer, place, grid, etiquetas);
     if (etiquetas.mostrar_numero) {
         printer.setCurrentX(place.x());
         printer.setCurrentY(place.y() + etiquetas.altura);
@@ -74,10 +76,11 @@ void drawLabel(Printer &printer, QPointF place, const BarLabels &etiquetas, cons
     }
 }
 
-/// What is still to be printed, and whether the label to begin at was reached.
+/// What is still to be printed, whether the label to begin at was reached, and how bars come onto this paper.
 struct Progress
 {
     QStringList waiting;
+    BarGrid grid;
     bool live = false;
 };
 
@@ -89,7 +92,7 @@ void drawColumn(Printer &printer, double x, int coluna, const BarLabels &etiquet
         QString &texto = progress.waiting.first();
         encode(etiquetas.tipo, texto);
         if (progress.live) {
-            drawLabel(printer, {x, y}, etiquetas, texto);
+            drawLabel(printer, {x, y}, progress.grid, etiquetas, texto);
             progress.waiting.removeFirst();
         } else {
             // Only a text that steps over used labels is cut, and that stays.
@@ -115,7 +118,7 @@ void Imprimir_Barras(const BarLabels &etiquetas)
 {
     Printer &printer = Printer::current();
     setUpSheet(printer);
-    Progress progress{.waiting = etiquetas.textos};
+    Progress progress{.waiting = etiquetas.textos, .grid = BarGrid(0)};
     drawSheet(printer, etiquetas, progress);
     // A place that no sheet has is never reached.
     while (progress.live && !progress.waiting.isEmpty()) {
