@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 #include <span>
 
@@ -105,6 +106,11 @@ QString Codigo_128(const QString &texto)
         sum += (index + 1) * value;
     }
     return pattern + widths128[static_cast<std::size_t>(sum % modulus128)] + stop128;
+}
+
+bool code128Has(const QString &texto)
+{
+    return std::ranges::all_of(texto, [](QChar character) { return alphabet128.contains(character); });
 }
 
 QString Codigo_2de5(const QString &texto)

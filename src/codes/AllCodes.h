@@ -10,6 +10,9 @@ QString Codigo_39(const QString &texto);
 
 /// Code 128 in its set B throughout.
 QString Codigo_128(const QString &texto);
+/// Whether it knows every character of the text. Where it doesn't, a reader takes the bars for another text or, as the
+/// check character counts what was skipped, for none.
+bool code128Has(const QString &texto);
 
 /// Interleaved 2 of 5: two digits share their elements, the bars being the first one's. It takes 21 digits at most.
 QString Codigo_2de5(const QString &texto);

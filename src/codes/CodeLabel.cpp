@@ -12,7 +12,7 @@ namespace {
 constexpr int moduleTwips = 18;
 constexpr double barTwips = 700;
 
-LabelChoice askForLabel()
+LabelChoice askForLabel(const QString &code)
 {
     LabelChoice answer;
     auto &window = Forms::use<frmetiquetas>();
@@ -21,6 +21,7 @@ LabelChoice askForLabel()
     QObject::connect(&window, &frmetiquetas::confirmed, &waiting,
                      [&answer](const LabelChoice &choice) { answer = choice; });
     window.setEtiqueta_Em_Andamento(true);
+    window.setCode(code);
     showAndWait(window);
     return answer;
 }
@@ -28,7 +29,7 @@ LabelChoice askForLabel()
 
 void printCodeLabel(Form &opener, const QString &code)
 {
-    const LabelChoice choice = askForLabel();
+    const LabelChoice choice = askForLabel(code);
     opener.setMousePointer(vbHourglass);
     if (choice.Coluna_Inicial > 0 && choice.Linha_Inicial > 0) {
         OnErrorResumeNext(

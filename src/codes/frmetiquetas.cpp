@@ -1,5 +1,6 @@
 #include "codes/frmetiquetas.h"
 
+#include "codes/AllCodes.h"
 #include "platform/window/BoxKeys.h"
 #include "ui_frmetiquetas.h"
 #include "windows/WindowTexts.h"
@@ -38,6 +39,14 @@ void frmetiquetas::setEtiqueta_Em_Andamento(bool underWay)
 {
     Etiqueta_Em_Andamento = underWay;
     ui->frame_etiquetas->setVisible(underWay);
+}
+
+void frmetiquetas::setCode(const QString &code)
+{
+    // A café's language files may be older than this line.
+    if (const QString translated = texts.text("lblleitura"); !translated.isEmpty())
+        ui->lblleitura->setText(translated);
+    ui->lblleitura->setVisible(!code128Has(code));
 }
 
 void frmetiquetas::cmdok_Click()

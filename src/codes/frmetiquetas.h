@@ -28,6 +28,8 @@ public:
 
     /// Without a label under way the window asks for the place alone.
     void setEtiqueta_Em_Andamento(bool underWay);
+    /// Says so when no reader will take this code from its bars.
+    void setCode(const QString &code);
 
 signals:
     /// The attendant accepted; a window that goes without it was cancelled.

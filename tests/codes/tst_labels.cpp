@@ -1,6 +1,7 @@
 #include "codes/AllCodes.h"
 #include "codes/CodeLabel.h"
 #include "codes/LabelSheet.h"
+#include "configuration/Globais.h"
 #include "platform/window/Forms.h"
 #include "tests/support/Attendant.h"
 #include "tests/support/Controls.h"
@@ -10,6 +11,8 @@
 #include "tests/support/TestCafe.h"
 
 #include <QComboBox>
+#include <QLabel>
+#include <QScopeGuard>
 #include <QTest>
 
 #include <random>
@@ -122,8 +125,9 @@ private slots:
             const QString file = print(kind.tipo, textos, 1, 1);
             for (const Rendering &rendering : {inWholeDots(300), inWholeDots(600), softened(300)})
                 QCOMPARE(labelsRead(kind, textos, file, rendering), textos.size());
-            // Nobody knows on which printer a file ends.
-            labelsRead(kind, textos, file, inWholeDots(203));
+            // Nobody knows on which printer a file ends: most kinds lose labels at 203 dots to the inch.
+            const int readAt203 = labelsRead(kind, textos, file, inWholeDots(203));
+            QVERIFY(kind.tipo != "2/5" || readAt203 == textos.size());
         }
     }
 
@@ -144,10 +148,32 @@ private slots:
         QCOMPARE(readAt(file, "M", 1, 2, 2), "CODE-128:M");
     }
 
+    void saysWhenNoReaderTakesTheCode()
+    {
+        const QString missing = "Ao código de barra faltam caracteres deste código: um leitor não o lê, ou lê outro.";
+        const QString translated =
+            "The barcode lacks characters of this code: a scanner does not read it, or reads another one.";
+        // A language without this line keeps the window's own.
+        for (const auto &[language, shownCode, line] :
+             {std::tuple<QString, QString, QString>("PORTUGUES.LNG", code, ""),
+              {"INGLES.LNG", "casal", translated},
+              {"FRANCES.LNG", "CAFÉ", missing}}) {
+            const auto back = qScopeGuard([before = NomeIdioma] { NomeIdioma = before; });
+            NomeIdioma = language;
+            QString seen;
+            label(shownCode, [&seen](Form &window) {
+                const auto &lblleitura = control<QLabel>(window, "lblleitura");
+                seen = lblleitura.isVisible() ? lblleitura.text() : QString();
+                click(window, "cmdcancelar");
+            });
+            QCOMPARE(seen, line);
+        }
+    }
+
     void printsOnlyWhatWasAskedFor()
     {
         for (const QString untick : {"chkcodigo", "chkbarras"}) {
-            label([&](Form &window) {
+            label(code, [&](Form &window) {
                 click(window, untick);
                 pickEntry(control<QComboBox>(window, "cmbcoluna"), "2");
                 pickEntry(control<QComboBox>(window, "cmblinha"), "10");
@@ -160,7 +186,7 @@ private slots:
 
         Attendant attendant;
         attendant.expectNotice("Escolha o que deseja imprimir: o número, o código de barra ou ambos.", "Aviso");
-        label([](Form &window) {
+        label(code, [](Form &window) {
             click(window, "chkcodigo");
             click(window, "chkbarras");
             click(window, "cmdok");
@@ -181,7 +207,7 @@ private:
     }
 
     /// Prints a code's label while the attendant works the window.
-    void label(const std::function<void(Form &)> &attendant)
+    void label(const QString &shownCode, const std::function<void(Form &)> &attendant)
     {
         m_machine.whileAsleep = [&] {
             QCoreApplication::processEvents();
@@ -189,7 +215,7 @@ private:
         };
         m_machine.openedDocuments.clear();
         Form opener;
-        printCodeLabel(opener, code);
+        printCodeLabel(opener, shownCode);
         QVERIFY(Forms::loaded().isEmpty() && opener.cursor().shape() == Qt::ArrowCursor);
     }
 

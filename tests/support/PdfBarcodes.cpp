@@ -9,19 +9,19 @@
 
 namespace {
 /// The rows of a label are alike, so some of them do.
-constexpr int rowsToOneRead = 4;
+constexpr int readsPerInch = 50;
 
 using namespace zbar;
 using Reader = std::unique_ptr<zbar_image_scanner_t, decltype([](auto *each) { zbar_image_scanner_destroy(each); })>;
 using Picture = std::unique_ptr<zbar_image_t, decltype([](auto *each) { zbar_image_destroy(each); })>;
 
 /// A reader of all kinds of bars, across the sheet only.
-Reader newReader()
+Reader newReader(int dotsPerInch)
 {
     Reader made(zbar_image_scanner_create());
     zbar_image_scanner_set_config(made.get(), ZBAR_QRCODE, ZBAR_CFG_ENABLE, 0);
     zbar_image_scanner_set_config(made.get(), ZBAR_NONE, ZBAR_CFG_X_DENSITY, 0);
-    zbar_image_scanner_set_config(made.get(), ZBAR_NONE, ZBAR_CFG_Y_DENSITY, rowsToOneRead);
+    zbar_image_scanner_set_config(made.get(), ZBAR_NONE, ZBAR_CFG_Y_DENSITY, dotsPerInch / readsPerInch);
     return made;
 }
 } // namespace
@@ -48,18 +48,19 @@ DrawnPages::DrawnPages(const QString &path, const Rendering &rendering) : m_dots
     QImageReader::setAllocationLimit(0);
     const QDir pictures(folder.path());
     for (const QString &file : pictures.entryList(QDir::Files, QDir::Name))
-        m_pages += QImage(pictures.filePath(file)).convertToFormat(QImage::Format_Grayscale8);
+        m_pages += QImage(pictures.filePath(file));
 }
 
 QStringList DrawnPages::barcodes(int page, const QRectF &part) const
 {
-    static const Reader reader = newReader();
-    const QImage &whole = m_pages[page - 1];
+    const Reader reader = newReader(m_dotsPerInch);
     const double dots = double(m_dotsPerInch) / twipsPerInch;
+    const QImage &whole = m_pages[page - 1];
     const QRect crop = QRectF(part.topLeft() * dots, part.size() * dots).toAlignedRect() & whole.rect();
+    const QImage greys = whole.copy(crop).convertToFormat(QImage::Format_Grayscale8);
     QByteArray pixels;
-    for (int y = crop.top(); y <= crop.bottom(); ++y)
-        pixels.append(reinterpret_cast<const char *>(whole.constScanLine(y)) + crop.left(), crop.width());
+    for (int y = 0; y < greys.height(); ++y)
+        pixels.append(reinterpret_cast<const char *>(greys.constScanLine(y)), greys.width());
     const Picture picture(zbar_image_create());
     zbar_image_set_format(picture.get(), zbar_fourcc('Y', '8', '0', '0'));
     zbar_image_set_size(picture.get(), static_cast<unsigned>(crop.width()), static_cast<unsigned>(crop.height()));

@@ -162,9 +162,11 @@ Form &code(bool prepaid)
     return window;
 }
 
-Form &labels()
+Form &labels(const QString &code)
 {
-    Forms::use<frmetiquetas>().setEtiqueta_Em_Andamento(true);
+    auto &window = Forms::use<frmetiquetas>();
+    window.setEtiqueta_Em_Andamento(true);
+    window.setCode(code);
     return open<frmetiquetas>();
 }
 
@@ -215,7 +217,8 @@ QStringList Scenes::states()
             "frmcadastro_produtos-edit",
             "frmcadastro_produtos-reserved",
             "frmcadastro_categoria-edit",
-            "frmcodigo_rapido-postpaid"};
+            "frmcodigo_rapido-postpaid",
+            "frmetiquetas-unread"};
 }
 
 void Scenes::play(const QString &scene, const Look &look)
@@ -237,7 +240,8 @@ void Scenes::play(const QString &scene, const Look &look)
             {"frmcadastro_categoria-edit", []() -> Form & { return categories(true); }},
             {"frmcodigo_rapido", []() -> Form & { return code(true); }},
             {"frmcodigo_rapido-postpaid", []() -> Form & { return code(false); }},
-            {"frmetiquetas", labels},
+            {"frmetiquetas", []() -> Form & { return labels("42"); }},
+            {"frmetiquetas-unread", []() -> Form & { return labels("casal"); }},
             {"frmconfig_recibo", open<frmconfig_recibo>},
             {"frmwebcam", [this]() -> Form & { return webcam(m_machine.installCamera()); }}};
         look(settings[scene]());
