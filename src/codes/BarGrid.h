@@ -12,8 +12,9 @@
 ///   300     dots         4    7   11   15        5   10   15   19
 ///   203     dots         2    5    8   10        3    7   10   13
 ///
-/// In a label as a whole, bars and spaces each stay within 5 % of the exact widths. How many labels are read is told in
-/// docs/labels.md. A grid of 1/1200 inch is nearer to the exact widths but falls between the dots of 300 to the inch.
+/// The bars of Code 128, its spaces and the whole stay within 5 % of the exact widths. How many labels are read is told
+/// in docs/labels.md. A grid of 1/1200 inch is nearer to the exact widths but falls between the dots of 300 to the
+/// inch.
 class BarGrid
 {
 public:

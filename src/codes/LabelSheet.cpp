@@ -118,7 +118,8 @@ void Imprimir_Barras(const BarLabels &etiquetas)
 {
     Printer &printer = Printer::current();
     setUpSheet(printer);
-    Progress progress{.waiting = etiquetas.textos, .grid = BarGrid(0)};
+    const int dotsPerInch = etiquetas.mostrar_barras ? printer.deviceDotsPerInch() : 0;
+    Progress progress{.waiting = etiquetas.textos, .grid = BarGrid(dotsPerInch)};
     drawSheet(printer, etiquetas, progress);
     // A place that no sheet has is never reached.
     while (progress.live && !progress.waiting.isEmpty()) {

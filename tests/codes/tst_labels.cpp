@@ -8,6 +8,7 @@
 #include "tests/support/FakeMachine.h"
 #include "tests/support/PdfBarcodes.h"
 #include "tests/support/PdfText.h"
+#include "tests/support/PrintSystem.h"
 #include "tests/support/TestCafe.h"
 
 #include <QComboBox>
@@ -129,6 +130,24 @@ private slots:
             const int readAt203 = labelsRead(kind, textos, file, inWholeDots(203));
             QVERIFY(kind.tipo != "2/5" || readAt203 == textos.size());
         }
+    }
+
+    void isReadInTheDotsOfThePrinter()
+    {
+        const FakeMachine machine;
+        PrintSystem system;
+        for (const int dotsPerInch : {203, 300}) {
+            const QString queue = QString("etiquetas%1").arg(dotsPerInch);
+            system.add(queue, 0, dotsPerInch);
+            Printer::current().setDeviceName(queue);
+            for (const Kind &kind : kinds) {
+                const QStringList textos = randomTexts(kind);
+                Imprimir_Barras({kind.tipo, modulo, altura, textos, true, true, 1, 1});
+                Printer::current().EndDoc();
+                QCOMPARE(labelsRead(kind, textos, system.nextPrintout(), inWholeDots(dotsPerInch)), textos.size());
+            }
+        }
+        Printer::current().setDeviceName({});
     }
 
     void leavesOutWhatIsNoDigitAndTheLowerCaseL()
