@@ -6,7 +6,6 @@
 #include "tests/support/Controls.h"
 #include "tests/support/PdfBarcodes.h"
 #include "tests/support/PdfText.h"
-#include "tests/support/Portrait.h"
 #include "tour/Tour.h"
 
 #include <QCoreApplication>
@@ -26,7 +25,6 @@ Form &customerWithCode(Tour &tour, const QString &name, bool photo)
     replaceText(control(desk, "txtnome"), name);
     click(desk, photo ? "cmdwebcam" : "cmdremover");
     if (photo) {
-        tour.camera().see(portrait({640, 480}));
         click(loadedWindow("frmwebcam"), "cmdcapturar_tela");
         click(loadedWindow("frmwebcam"), "cmdconfirmar");
     }

@@ -3,7 +3,6 @@
 #include "platform/window/Forms.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/PdfText.h"
-#include "tests/support/Portrait.h"
 #include "tour/ListDesk.h"
 
 #include <QCoreApplication>
@@ -21,7 +20,6 @@ void takePhoto(Tour &tour, ListDesk &desk)
 {
     click(desk.window(), "cmdwebcam");
     Form &webcam = loadedWindow("frmwebcam");
-    tour.camera().see(portrait({640, 480}));
     click(webcam, "cmdcapturar_tela");
     tour.picture(webcam, "frmwebcam");
     click(webcam, "cmdconfirmar");

@@ -4,6 +4,7 @@
 #include "configuration/Arquivos_INI.h"
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
+#include "tests/support/Portrait.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -47,7 +48,7 @@ void Tour::prepareMachine()
     Machine &machine = Machine::current();
     machine.programFolder = [this] { return m_programFolder.path(); };
     machine.playWave = [this](const QString &path) { m_sounds += path; };
-    machine.camera = [this] { return m_camera; };
+    m_camera.see(portrait({640, 480}));
     machine.printerNames = [] { return QStringList(); };
     machine.defaultPrinterName = [] { return QString(); };
     machine.printoutFolder = [this] { return m_folder; };

@@ -2,7 +2,7 @@
 
 #include "platform/jet/Database.h"
 #include "tests/support/Attendant.h"
-#include "tests/support/FakeCamera.h"
+#include "tests/support/TestCamera.h"
 
 #include <QString>
 #include <QStringList>
@@ -21,7 +21,6 @@ public:
     ~Tour();
 
     Attendant &attendant() { return m_attendant; }
-    FakeCamera &camera() { return *m_camera; }
     QString cafe() const { return path("cafe"); }
     /// Path of a file in the tour's folder.
     QString path(const QString &name) const { return m_folder + '/' + name; }
@@ -53,7 +52,7 @@ private:
     QString m_folder;
     QTemporaryDir m_programFolder;
     Attendant m_attendant;
-    std::shared_ptr<FakeCamera> m_camera = std::make_shared<FakeCamera>();
+    TestCamera m_camera;
     DatabaseHandle m_database;
     QStringList m_sounds;
     int m_pictures = 0;

@@ -2,8 +2,9 @@
 
 #include <memory>
 
-class CaptureSource;
+class FirstCamera;
 class PictureBox;
+class QString;
 
 /// What the webcam window does with the camera.
 class MemCap
@@ -12,12 +13,13 @@ public:
     /// Whether the camera is connected.
     bool Conectado = false;
 
-    /// Connects the first camera and shows what it sees.
-    void connectTo(PictureBox &preview);
-    /// Copies the frame of this moment to the clipboard.
+    /// Connects the first camera and shows what it sees, or `withoutPicture` while it sees nothing. Events run
+    /// meanwhile, in which the camera may be closed again.
+    void connectTo(PictureBox &preview, const QString &withoutPicture);
+    /// Copies the frame of this moment to the clipboard, if there is one.
     void copyFrame() const;
     void close();
 
 private:
-    std::shared_ptr<CaptureSource> m_camera;
+    std::shared_ptr<FirstCamera> m_camera;
 };

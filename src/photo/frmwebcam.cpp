@@ -22,12 +22,14 @@ frmwebcam::~frmwebcam() = default;
 void frmwebcam::Form_Load()
 {
     Sempre_No_Topo(*this, true);
-    const bool connected = OnErrorGoToEnd([this] { m_capture.connectTo(*ui->JanelaCaptura); });
-    if (connected && m_capture.Conectado)
+    const QString cannotUse = textoIdioma("Funcoes", "MsgBox9");
+    const bool connected = OnErrorGoToEnd([&] { m_capture.connectTo(*ui->JanelaCaptura, cannotUse); });
+    // The window may have been closed before the camera answered.
+    if (!isLoaded() || (connected && m_capture.Conectado))
         return;
-    m_capture.Conectado = false;
+    m_capture.close();
     Err::Clear();
-    MsgBox(textoIdioma("Funcoes", "MsgBox9"), vbInformation, textoIdioma("Funcoes", "MsgBox1_2"));
+    MsgBox(cannotUse, vbInformation, textoIdioma("Funcoes", "MsgBox1_2"));
     Unload();
 }
 

@@ -1,22 +1,31 @@
 #include "photo/Conversor_JPG.h"
 #include "photo/frmwebcam.h"
-#include "platform/media/CameraModule.h"
+#include "platform/window/Clipboard.h"
 #include "platform/window/Forms.h"
 #include "platform/window/PictureBox.h"
+#include "shell/frmprincipal.h"
 #include "tests/support/Attendant.h"
 #include "tests/support/Controls.h"
 #include "tests/support/FakeMachine.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/TestCafe.h"
 
+#include <QClipboard>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <cmath>
 
+#include <sys/wait.h>
+
 namespace {
+const QString cannotUse = "Não foi possível usar a câmera. Verifique se ela está ligada.";
+
 /// Shades with the grain of a photo: greener to the right, and redder to the bottom.
 QImage snapshot(QSize size)
 {
@@ -43,6 +52,39 @@ double psnr(const QImage &one, const QImage &other)
     return 10 * std::log10(255 * 255 * 3.0 * one.width() * one.height() / squares);
 }
 
+/// The window before a camera, from its opening on.
+struct Window
+{
+    explicit Window(TestCamera &before, const QImage &seen = {}) : camera(before), form(opened(before, seen)) {}
+    ~Window() { form.Unload(); }
+
+    static frmwebcam &opened(TestCamera &camera, const QImage &seen)
+    {
+        if (!seen.isNull())
+            camera.see(seen);
+        auto &form = Forms::use<frmwebcam>();
+        form.Show();
+        return form;
+    }
+    PictureBox &preview() const { return control<PictureBox>(form, "JanelaCaptura"); }
+    QImage captured() const { return control<PictureBox>(form, "pctfoto").Picture().toImage(); }
+    void press(const char *button) const { click(form, button); }
+    bool sees(const QImage &image) const
+    {
+        return QTest::qWaitFor([&] { return preview().Picture().toImage() == image; });
+    }
+
+    TestCamera &camera;
+    frmwebcam &form;
+};
+
+/// Whether no process is left, not even one that ended and is not reaped; a busy computer takes its time.
+bool isWithoutChildren()
+{
+    siginfo_t left;
+    return QTest::qWaitFor([&] { return ::waitid(P_ALL, 0, &left, WEXITED | WNOHANG | WNOWAIT) == -1; });
+}
+
 QStringList filesIn(const QTemporaryDir &folder)
 {
     return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
@@ -59,43 +101,121 @@ private slots:
 
     void theLastFrameIsStored()
     {
-        FakeCamera &camera = m_machine.installCamera();
-        const QImage first = snapshot({320, 240});
+        const QImage first = snapshot({640, 480});
         const QImage second = first.mirrored();
-        camera.see(first);
-        frmwebcam &window = Forms::use<frmwebcam>();
-        window.Show();
-        auto &preview = control<PictureBox>(window, "JanelaCaptura");
-        QCOMPARE(preview.Picture().toImage(), first);
-        QVERIFY(!control(window, "cmdconfirmar").isEnabled());
+        Window window(m_machine.installCamera(), first);
+        QVERIFY(window.sees(first));
+        QVERIFY(!control(window.form, "cmdconfirmar").isEnabled());
 
-        QSignalSpy told(&window, &frmwebcam::confirmed);
-        click(window, "cmdcapturar_tela");
-        camera.see(second);
-        QCOMPARE(preview.Picture().toImage(), second);
-        QCOMPARE(control<PictureBox>(window, "pctfoto").Picture().toImage(), first);
-        click(window, "cmdcapturar_tela");
-        click(window, "cmdconfirmar");
+        QSignalSpy told(&window.form, &frmwebcam::confirmed);
+        window.press("cmdcapturar_tela");
+        window.camera.see(second);
+        QVERIFY(window.sees(second));
+        QCOMPARE(window.captured(), first);
+        window.press("cmdcapturar_tela");
+        window.press("cmdconfirmar");
         QCOMPARE(told.size(), 1);
         QVERIFY(told.first().first().toString().endsWith("\\Fototemp.jpg"));
         QVERIFY(psnr(QImage(m_cafe.path("Fototemp.jpg")), second) > 35);
-        QVERIFY(!camera.isOpen && Forms::loaded().isEmpty());
-        camera.see(first);
+        QVERIFY(Forms::loaded().isEmpty() && isWithoutChildren());
+    }
+
+    /// The sides are cut, nothing is stretched, and the mode with the least work is taken, of the first camera alone.
+    void sizesAndModes()
+    {
+        for (const QSize size : {QSize(1280, 720), QSize(3840, 2160), QSize(320, 240)}) {
+            TestCamera &camera = m_machine.installCamera();
+            const QImage seen = snapshot(size);
+            size.height() == 720 ? camera.seeJpeg(seen) : camera.see(seen);
+            TestCamera second;
+            second.see(snapshot({640, 480}).mirrored());
+            TestCamera::plug({&camera, &second});
+            const QSize cut = QSize(4, 3).scaled(size, Qt::KeepAspectRatio);
+            const QImage wanted = seen.copy((size.width() - cut.width()) / 2, 0, cut.width(), cut.height())
+                                      .scaled(640, 480, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            Window window(camera);
+            QVERIFY2(psnr(window.preview().Picture().toImage(), wanted) > 25,
+                     qPrintable(QString::number(psnr(window.preview().Picture().toImage(), wanted))));
+        }
+        TestCamera &camera = m_machine.installCamera();
+        camera.offer("image/jpeg,width=640,height=480;video/x-raw,width=352,height=288,framerate=30/1;"
+                     "video/x-raw,width=1280,height=720,framerate=30/1;"
+                     "video/x-raw,width=640,height=480,framerate={30/1,5/1}");
+        Window window(camera);
+        // Squares of eight pixels that were not scaled.
+        QCOMPARE(window.preview().Picture().toImage().pixel(7, 7), window.preview().Picture().toImage().pixel(0, 0));
+        QVERIFY(window.preview().Picture().toImage().pixel(8, 7) != window.preview().Picture().toImage().pixel(7, 7));
     }
 
     void noCameraClosesTheWindow()
     {
-        for (const bool installed : {false, true}) {
-            Machine::current().camera = [] { return nullptr; };
-            if (installed)
-                m_machine.installCamera().works = false;
+        for (const char *fault : {"none", "no program", "busy", "crash", "driver hangs", "hang", "late"}) {
+            TestCamera &camera = m_machine.installCamera();
+            camera.see(snapshot({640, 480}));
+            camera.suffer(fault, 0, 5'000'000);
+            if (qstrcmp(fault, "none") == 0)
+                TestCamera::plug({});
+            if (qstrcmp(fault, "no program") == 0)
+                Machine::current().cameraProgram = [] { return QString("/nowhere"); };
             Attendant attendant;
-            attendant.expectNotice("Não foi possível usar a câmera. Verifique se ela está ligada.", "Aviso");
-            frmwebcam &window = Forms::use<frmwebcam>();
-            window.Show();
-            QVERIFY(!window.isVisible() && Forms::loaded().isEmpty());
+            attendant.expectNotice(cannotUse, "Aviso");
+            QElapsedTimer clock;
+            clock.start();
+            const Window window(camera);
+            QVERIFY2(clock.elapsed() < 5000 && !window.form.isVisible(), fault);
+            QVERIFY(Forms::loaded().isEmpty() && isWithoutChildren());
         }
-        QVERIFY(loadFirstCamera());
+    }
+
+    void saysThatThereIsNoPictureAndShowsTheNextOne()
+    {
+        const QImage first = snapshot({640, 480});
+        for (const char *fault : {"silent", "unplugged", "ended", "crash", "hang"}) {
+            TestCamera &camera = m_machine.installCamera();
+            camera.suffer(fault, 20, 120);
+            Window window(camera, first);
+            window.press("cmdcapturar_tela");
+            QTRY_COMPARE(window.preview().text(), cannotUse);
+            QVERIFY(window.preview().Picture().isNull());
+            // What was seen last is no picture of this moment.
+            QGuiApplication::clipboard()->clear();
+            window.press("cmdcapturar_tela");
+            QVERIFY(!Clipboard::hasPicture() && window.captured() == first);
+            const bool comesBack = qstrcmp(fault, "hang") != 0;
+            QVERIFY2(!comesBack || window.sees(first), fault);
+            QElapsedTimer clock;
+            clock.start();
+            window.press("cmdcancelar");
+            QVERIFY(clock.elapsed() < 300 && isWithoutChildren());
+        }
+    }
+
+    /// What the attendant does while the camera takes its time.
+    void pressesWhileItConnects()
+    {
+        TestCamera &camera = m_machine.installCamera();
+        camera.see(snapshot({640, 480}));
+        camera.suffer("late", 0, 1'500'000);
+        int opened = 0;
+        const auto later = [&](const auto &press) {
+            QTimer::singleShot(700, this, [&opened, press] {
+                ++opened;
+                press(Forms::use<frmwebcam>());
+            });
+        };
+        later([](frmwebcam &form) { form.Show(); });
+        {
+            const Window window(camera);
+            QVERIFY(window.form.isVisible() && Forms::loaded().size() == 1);
+            window.press("cmdcancelar");
+        }
+        later([](frmwebcam &form) { form.close(); });
+        const Window closed(camera);
+        QVERIFY(!closed.form.isVisible() && Forms::loaded().isEmpty() && isWithoutChildren());
+        Forms::use<frmprincipal>();
+        later([](frmwebcam &) { loadedWindow("frmprincipal").Unload(); });
+        const Window left(camera);
+        QVERIFY(Forms::loaded().isEmpty() && isWithoutChildren() && opened == 3);
     }
 
     void fileHoldsThePicture()

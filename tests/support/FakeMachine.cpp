@@ -18,7 +18,7 @@ FakeMachine::FakeMachine() : m_saved(Machine::current())
     machine.portDevice = [](int) { return QString(); };
     machine.printerNames = [] { return QStringList(); };
     machine.defaultPrinterName = [] { return QString(); };
-    machine.camera = [] { return nullptr; };
+    machine.cameraProgram = [] { return QString(); };
     machine.printoutFolder = [this] { return m_folder.path(); };
     machine.openDocument = [this](const QString &path) { openedDocuments.append(path); };
 }
@@ -28,11 +28,11 @@ FakeMachine::~FakeMachine()
     Machine::current() = m_saved;
 }
 
-FakeCamera &FakeMachine::installCamera()
+TestCamera &FakeMachine::installCamera()
 {
-    const auto camera = std::make_shared<FakeCamera>();
-    Machine::current().camera = [camera] { return camera; };
-    return *camera;
+    Machine::current().cameraProgram = m_saved.cameraProgram;
+    m_camera = std::make_unique<TestCamera>();
+    return *m_camera;
 }
 
 QString FakeMachine::installPort(int port)

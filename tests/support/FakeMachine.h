@@ -1,9 +1,11 @@
 #pragma once
 
 #include "platform/base/Machine.h"
-#include "tests/support/FakeCamera.h"
+#include "tests/support/TestCamera.h"
 
 #include <QTemporaryDir>
+
+#include <memory>
 
 /// A computer under a test's control, in force as long as it lives: its clock stands still but for the program's
 /// sleeps, and it has neither camera nor printer, so that printouts become PDF files. A test may replace further parts
@@ -23,7 +25,8 @@ public:
     /// The printouts, in their order.
     QStringList openedDocuments;
 
-    FakeCamera &installCamera();
+    /// It sees a pattern before it is told what.
+    TestCamera &installCamera();
     /// A new, empty file that stands for the device of a printer port.
     QString installPort(int port);
     /// From here on every printout is refused.
@@ -31,5 +34,6 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    std::unique_ptr<TestCamera> m_camera;
     Machine m_saved;
 };

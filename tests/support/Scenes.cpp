@@ -14,7 +14,6 @@
 #include "sale/frmvenda.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/Controls.h"
-#include "tests/support/FakeCamera.h"
 #include "tests/support/Portrait.h"
 #include "windows/OpenForms.h"
 
@@ -170,10 +169,10 @@ Form &labels(const QString &code)
     return open<frmetiquetas>();
 }
 
-Form &webcam(FakeCamera &camera)
+Form &webcam(TestCamera &camera)
 {
-    Form &window = open<frmwebcam>();
     camera.see(portrait({640, 480}));
+    Form &window = open<frmwebcam>();
     click(window, "cmdcapturar_tela");
     return window;
 }

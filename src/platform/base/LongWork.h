@@ -5,7 +5,7 @@
 #include <functional>
 
 /// A routine that may take long. Whatever works inside it says with `goOn` that it does, however often: the sign of
-/// life follows the clock, not the calls. No events run for it, so that nobody can change what the routine works on.
+/// life follows the clock, not the calls. It lets no events run, so that nobody can change what the routine works on.
 class LongWork
 {
 public:

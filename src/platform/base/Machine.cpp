@@ -55,7 +55,7 @@ QString documentsSubfolder()
 }
 } // namespace
 
-// Printers and cameras are a matter of Qt's larger libraries: the application names them at its start.
+// Printers are a matter of Qt's larger libraries: the application names them at its start.
 Machine::Machine()
     : programFolder(QCoreApplication::applicationDirPath)
     , now(QDateTime::currentDateTime)
@@ -67,7 +67,7 @@ Machine::Machine()
     , printerNames([] { return QStringList(); })
     , defaultPrinterName([] { return QString(); })
     , printoutFolder(documentsSubfolder)
-    , camera([] { return nullptr; })
+    , cameraProgram([] { return QCoreApplication::applicationDirPath() + "/morvelane-camera"; })
     , openDocument([](const QString &path) { startDetached("xdg-open", path); })
 {
 }

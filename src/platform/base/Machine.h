@@ -5,9 +5,6 @@
 #include <QStringList>
 
 #include <functional>
-#include <memory>
-
-class CaptureSource;
 
 /// Everything of the computer that a test must be able to replace: time, chance, devices.
 ///
@@ -34,8 +31,8 @@ struct Machine
     std::function<QString()> defaultPrinterName;
     /// Folder for printouts on a computer without a printer.
     std::function<QString()> printoutFolder;
-    /// The computer's first camera, still closed; null when the program can't use cameras.
-    std::function<std::shared_ptr<CaptureSource>()> camera;
+    /// The program that owns the camera while one is used; an empty text where there is none.
+    std::function<QString()> cameraProgram;
     /// Shows a file with the desktop's own viewer.
     std::function<void(const QString &path)> openDocument;
 

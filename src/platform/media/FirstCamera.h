@@ -1,42 +1,50 @@
 #pragma once
 
-#include "platform/media/CameraModule.h"
+#include <QImage>
+#include <QObject>
+#include <QTimer>
 
-#include <QElapsedTimer>
+#include <chrono>
 
-class QVideoFrame;
+class QProcess;
 
-/// The first camera of the computer.
-class FirstCamera : public CaptureSource
+/// The computer's first camera, in a process of its own: whatever becomes of that, this object stays usable.
+class FirstCamera : public QObject
 {
+    Q_OBJECT
+
 public:
     FirstCamera();
     ~FirstCamera() override;
 
-    bool open() override;
-    void startPreview(int milliseconds, const Preview &show) override;
-    QImage copyFrame() const override { return m_frame; }
-    void close() override;
+    /// Waits for the first picture, for 3 seconds at most; events run meanwhile. False when none came, or when the
+    /// camera was closed in the meantime.
+    bool open();
+    /// Takes a fraction of a second at most, whatever the camera does.
+    void close();
+    /// The picture of this moment; a null image when the newest one is older than 2 seconds.
+    QImage picture() const;
+
+signals:
+    void sees(const QImage &picture);
+    /// The camera gives no pictures any more. They may come back.
+    void seesNothing();
+    void settled();
 
 private:
-    void take(const QVideoFrame &frame);
+    void start();
+    void read();
+    bool readNext();
+    void checkAge();
+    void lost();
 
-    struct Line;
-
-    /// Laid only to a camera that is there: making its parts wakes the whole media system.
-    std::unique_ptr<Line> m_line;
-    Preview m_show;
-    int m_milliseconds = 0;
-    QElapsedTimer m_sinceFrame;
-    QImage m_frame;
-};
-
-class FirstCameraModule : public QObject, public CameraModule
-{
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID CameraModule_iid)
-    Q_INTERFACES(CameraModule)
-
-public:
-    std::shared_ptr<CaptureSource> firstCamera() override { return std::make_shared<FirstCamera>(); }
+    /// Null while no process runs.
+    QProcess *m_process = nullptr;
+    QImage m_picture;
+    std::chrono::steady_clock::time_point m_taken;
+    bool m_connected = false;
+    bool m_dark = false;
+    QTimer m_patience;
+    QTimer m_ageCheck;
+    QTimer m_restart;
 };

@@ -3,7 +3,6 @@
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/base/Patience.h"
-#include "platform/media/CameraModule.h"
 #include "platform/print/PrintQueue.h"
 #include "platform/window/BusySign.h"
 #include "platform/window/Look.h"
@@ -58,7 +57,6 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     // Asked when a window needs them: looking for printers may wait for the network.
     Machine::current().printerNames = printQueueNames;
     Machine::current().defaultPrinterName = defaultPrintQueue;
-    Machine::current().camera = loadFirstCamera;
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)

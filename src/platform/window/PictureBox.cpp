@@ -10,7 +10,20 @@ PictureBox::PictureBox(QWidget *parent) : QFrame(parent)
 
 void PictureBox::setPicture(const QPixmap &picture)
 {
+    put(picture, {});
+}
+
+void PictureBox::setText(const QString &text)
+{
+    put({}, text);
+}
+
+void PictureBox::put(const QPixmap &picture, const QString &text)
+{
     m_picture = picture;
+    if (m_text != text)
+        setAccessibleDescription(text);
+    m_text = text;
     update();
 }
 
@@ -23,6 +36,10 @@ void PictureBox::paintEvent(QPaintEvent *event)
         QPainter painter(this);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawPixmap(place, m_picture);
+    } else if (!m_text.isEmpty()) {
+        const int margin = 2 * fontMetrics().height();
+        QPainter(this).drawText(contentsRect().adjusted(margin, 0, -margin, 0), Qt::AlignCenter | Qt::TextWordWrap,
+                                m_text);
     }
     QFrame::paintEvent(event);
 }

@@ -3,7 +3,7 @@
 #include <QFrame>
 #include <QPixmap>
 
-/// Shows a picture as large as the box allows; the picture itself keeps its own size.
+/// Shows a picture as large as the box allows; the picture itself keeps its own size. Or a text in its place.
 class PictureBox : public QFrame
 {
     Q_OBJECT
@@ -13,10 +13,16 @@ public:
 
     const QPixmap &Picture() const { return m_picture; }
     void setPicture(const QPixmap &picture);
+    const QString &text() const { return m_text; }
+    /// Stands until the next picture.
+    void setText(const QString &text);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void put(const QPixmap &picture, const QString &text);
+
     QPixmap m_picture;
+    QString m_text;
 };
