@@ -20,7 +20,10 @@ struct Drill
 
     int kills = 200;
     int seconds = 120;
+    int webcams = 200;
     unsigned seed = 0;
+    /// What the titles of the scenes hold that are played; an empty text is in all of them.
+    QString only;
     /// Folder of another version of the engine's library; every second of the four terminals works with it.
     QString otherEngine;
     /// Where cafés and pointer files are laid out.

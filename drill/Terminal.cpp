@@ -18,12 +18,28 @@
 #include <iostream>
 #include <string>
 
+#include <sys/resource.h>
+
 namespace {
 constexpr int longestStart = 30'000;
 
 void say(const QStringList &words)
 {
     std::cout << words.join('\t').toStdString() << std::endl;
+}
+
+/// What this process and the children that have ended took of the processor.
+double processorSeconds()
+{
+    constexpr double microseconds = 1e-6;
+    double seconds = 0;
+    for (const auto who : {RUSAGE_SELF, RUSAGE_CHILDREN}) {
+        rusage usage{};
+        ::getrusage(who, &usage);
+        for (const timeval &time : {usage.ru_utime, usage.ru_stime})
+            seconds += static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * microseconds;
+    }
+    return seconds;
 }
 
 class Counter : public Willing
@@ -57,6 +73,8 @@ public:
             edit();
         else if (kind == "held")
             workOnHeldFile();
+        else if (kind == "webcam" || kind == "watch")
+            useWebcam(kind == "watch");
         else
             tick();
     }
@@ -203,6 +221,28 @@ private:
         // The box empties when the edit has ended well; a failure would have ended the program.
         if (control<QLineEdit>(*customers, "txtComplemento").text().isEmpty())
             done();
+    }
+
+    void useWebcam(bool watch)
+    {
+        constexpr int briefly = 150;
+        constexpr int atLength = 5000;
+        if (Form *customers = window("cmdclientes", "frmcadastro_clientes"))
+            click(*customers, "cmdwebcam");
+        if (!Form_Aberto("frmwebcam"))
+            return;
+        Form &webcam = loadedWindow("frmwebcam");
+        const double spent = processorSeconds();
+        m_freeze.start();
+        if (watch)
+            say({"watching"});
+        QTest::qWait(watch ? atLength : m_serial % briefly);
+        click(webcam, "cmdcapturar_tela");
+        const qint64 watched = m_freeze.restart();
+        click(webcam, "cmdcancelar");
+        say({"webcam", QString::number(m_freeze.elapsed())});
+        if (watch)
+            say({"processor", QString::number((processorSeconds() - spent) * 100'000 / static_cast<double>(watched))});
     }
 
     void tick()

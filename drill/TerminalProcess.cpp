@@ -68,6 +68,11 @@ bool TerminalProcess::asks()
     return !readUpTo({"question"}, longestStart).isEmpty();
 }
 
+bool TerminalProcess::watches()
+{
+    return !readUpTo({"watching"}, longestStart).isEmpty();
+}
+
 bool TerminalProcess::becomesIdle(int seconds)
 {
     return !readUpTo({"idle"}, seconds * 1000).isEmpty();

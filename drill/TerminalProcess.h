@@ -22,6 +22,8 @@ public:
     bool beginsWork();
     /// Waits for the question of a sale.
     bool asks();
+    /// Waits until the webcam's picture is looked at.
+    bool watches();
     /// Waits until an order is done.
     bool becomesIdle(int seconds);
     void kill();
@@ -30,6 +32,7 @@ public:
 
     /// What was tried and told so far, each time only what is new.
     QStringList takeJournal();
+    qint64 number() const { return m_process.processId(); }
     int millisecondsToReady() const { return m_readyAfter; }
     /// Whether the process has loaded a library out of this folder.
     bool hasLoadedFrom(const QString &libraries) const;

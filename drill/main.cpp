@@ -2,6 +2,7 @@
 #include "drill/Scenes.h"
 #include "drill/ShareScenes.h"
 #include "drill/Terminal.h"
+#include "drill/WebcamScene.h"
 #include "platform/base/Err.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Application.h"
@@ -44,11 +45,14 @@ int play(Drill &drill, bool ownMounts)
     drill.chance.seed(drill.seed);
     print(QString("Seed %1").arg(drill.seed));
     const auto scene = [&](const char *title, void (*act)(Drill &)) {
+        if (!QString(title).contains(drill.only))
+            return;
         print(QString("%1 s: %2").arg(clock.elapsed() / 1000).arg(title));
         act(drill);
     };
     scene("kills", playKills);
     scene("four terminals", playCrowd);
+    scene("the webcam beside sales", playWebcam);
     scene("the folder goes away", playUnreachable);
     scene("another program holds the file", playHeld);
     if (ownMounts) {
@@ -80,9 +84,11 @@ int main(int argc, char **argv)
         "Kills terminals, takes their café away and fills its disk, and tells what was lost.");
     parser.addHelpOption();
     parser.addOptions(
-        {{"short", "A quick drill: 12 kills, 10 seconds of four terminals."},
+        {{"short", "A quick drill: 12 kills, 10 seconds of four terminals, 20 openings of the webcam window."},
          {"kills", "How many terminals are killed (200).", "count"},
          {"seconds", "How long four terminals work (120).", "count"},
+         {"webcams", "How often the webcam window opens and closes (200).", "count"},
+         {"only", "Plays the scenes alone whose title, as the drill prints it, holds this.", "words"},
          {"seed", "Plays the same moments again.", "number"},
          {"engine", "Every second of the four terminals takes its libsqlcipher.so.0 from there.", "folder"}});
     parser.process(application);
@@ -92,6 +98,8 @@ int main(int argc, char **argv)
     };
     drill.kills = number("kills", parser.isSet("short") ? 12 : 200);
     drill.seconds = number("seconds", parser.isSet("short") ? 10 : 120);
+    drill.webcams = number("webcams", parser.isSet("short") ? 20 : 200);
+    drill.only = parser.value("only");
     drill.seed = static_cast<unsigned>(number("seed", static_cast<int>(std::random_device()() % 1'000'000)));
     if (parser.isSet("engine"))
         drill.otherEngine = QDir(parser.value("engine")).canonicalPath();
