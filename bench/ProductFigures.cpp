@@ -173,7 +173,7 @@ Quartiles ratioOfPrinting()
     return ratiosOfPairs(
         [&] {
             return secondsOf(
-                [&] { imprimirProdutos(Forms::use<frmcadastro_produtos>(), grid, printedProducts, "5000 produtos"); });
+                [&] { printProducts(Forms::use<frmcadastro_produtos>(), grid, printedProducts, "5000 produtos"); });
         },
         [&] { return secondsOf([&] { BarePages(folder.filePath("bare.pdf")).print(grid); }); });
 }

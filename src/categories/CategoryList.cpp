@@ -15,8 +15,7 @@ QString markOf(bool isDefault)
 }
 } // namespace
 
-CategoryList::CategoryList(Ui::frmcadastro_categoria &window, CategoryState &state, QObject *parent)
-    : QObject(parent), ui(window), m_state(state)
+CategoryList::CategoryList(Ui::frmcadastro_categoria &window, CategoryState &state) : ui(window), m_state(state)
 {
     connect(ui.tab_categorias, &FlexGrid::Click, this, &CategoryList::tab_categorias_Click);
     connect(ui.tab_categorias, &FlexGrid::SelChange, this, &CategoryList::tab_categorias_Click);

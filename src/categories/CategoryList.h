@@ -20,7 +20,7 @@ class CategoryList : public QObject
     Q_OBJECT
 
 public:
-    CategoryList(Ui::frmcadastro_categoria &window, CategoryState &state, QObject *parent);
+    CategoryList(Ui::frmcadastro_categoria &window, CategoryState &state);
 
     /// Loads the list anew. No row is picked afterwards.
     void load();

@@ -20,7 +20,7 @@ ListReport reportOf(const FlexGrid &grid, const QString &nameHead, const QString
 }
 } // namespace
 
-void imprimirCategorias(const FlexGrid &tab_categorias, const QString &total)
+void printCategories(const FlexGrid &tab_categorias, const QString &total)
 {
     if (!categoryTexts.confirms("MsgBox8", "MsgBox8_2", vbQuestion))
         return;
@@ -43,7 +43,7 @@ void imprimirCategorias(const FlexGrid &tab_categorias, const QString &total)
     printList(list);
 }
 
-void salvarCategorias(const FlexGrid &tab_categorias, const QString &total)
+void saveCategories(const FlexGrid &tab_categorias, const QString &total)
 {
     if (tab_categorias.Rows() < 2)
         return categoryTexts.notice("MsgBox18", "MsgBox9_2");

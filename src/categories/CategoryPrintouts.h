@@ -5,5 +5,5 @@ class QString;
 
 // The list of categories on paper and in a file. `total` is the text of the label that counts them.
 
-void imprimirCategorias(const FlexGrid &tab_categorias, const QString &total);
-void salvarCategorias(const FlexGrid &tab_categorias, const QString &total);
+void printCategories(const FlexGrid &tab_categorias, const QString &total);
+void saveCategories(const FlexGrid &tab_categorias, const QString &total);

@@ -19,7 +19,7 @@ void removeRows(const QStringList &codes, const QStringList &names, const QStrin
 }
 } // namespace
 
-bool removerCategorias(const FlexGrid &tab_categorias, const CategoryState &state)
+bool removeCategories(const FlexGrid &tab_categorias, const CategoryState &state)
 {
     const int first = tab_categorias.Row();
     const int last = tab_categorias.RowSel();

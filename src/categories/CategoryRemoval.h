@@ -5,4 +5,4 @@ struct CategoryState;
 
 /// Removes the selected categories and moves their products to the one that can't be removed. True when the window has
 /// to be loaded anew.
-bool removerCategorias(const FlexGrid &tab_categorias, const CategoryState &state);
+bool removeCategories(const FlexGrid &tab_categorias, const CategoryState &state);

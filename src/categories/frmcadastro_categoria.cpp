@@ -13,7 +13,7 @@
 frmcadastro_categoria::frmcadastro_categoria() : ui(std::make_unique<Ui::frmcadastro_categoria>())
 {
     ui->setupUi(this);
-    m_list = new CategoryList(*ui, m_state, this);
+    m_list = std::make_unique<CategoryList>(*ui, m_state);
     m_editing = std::make_unique<CategoryEditing>(*ui, m_state, *m_list);
 
     enterMovesTo(ui->txtnome, ui->chkpadrao);
@@ -21,9 +21,9 @@ frmcadastro_categoria::frmcadastro_categoria() : ui(std::make_unique<Ui::frmcada
     connect(ui->cmdeditar, &QPushButton::clicked, this, [this] { m_editing->cmdeditar_Click(); });
     connect(ui->cmdremover, &QPushButton::clicked, this, &frmcadastro_categoria::cmdremover_Click);
     connect(ui->cmdimprimir, &QPushButton::clicked, this,
-            [this] { imprimirCategorias(*ui->tab_categorias, ui->lbltotal_categorias->Caption()); });
+            [this] { printCategories(*ui->tab_categorias, ui->lbltotal_categorias->Caption()); });
     connect(ui->cmdsalvar, &QPushButton::clicked, this,
-            [this] { salvarCategorias(*ui->tab_categorias, ui->lbltotal_categorias->Caption()); });
+            [this] { saveCategories(*ui->tab_categorias, ui->lbltotal_categorias->Caption()); });
     connect(ui->cmdsair, &QPushButton::clicked, this, &frmcadastro_categoria::Unload);
 }
 
@@ -42,6 +42,6 @@ void frmcadastro_categoria::Form_Load()
 
 void frmcadastro_categoria::cmdremover_Click()
 {
-    if (removerCategorias(*ui->tab_categorias, m_state))
+    if (removeCategories(*ui->tab_categorias, m_state))
         Form_Load();
 }

@@ -29,6 +29,6 @@ private:
 
     std::unique_ptr<Ui::frmcadastro_categoria> ui;
     CategoryState m_state;
-    CategoryList *m_list;
+    std::unique_ptr<CategoryList> m_list;
     std::unique_ptr<CategoryEditing> m_editing;
 };

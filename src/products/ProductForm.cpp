@@ -38,9 +38,8 @@ bool refuse(const QString &key, TextBox *box)
 }
 } // namespace
 
-ProductForm::ProductForm(Ui::frmcadastro_produtos &window, QObject *parent)
-    : QObject(parent)
-    , ui(window)
+ProductForm::ProductForm(Ui::frmcadastro_produtos &window)
+    : ui(window)
     , m_boxes{ui.txtdescrição, ui.txtfornecedor, ui.txtquantidade_atual, ui.txtestoque_min, ui.txtcod_barra, ui.txtcod}
 {
     connectEnterChain();

@@ -23,7 +23,7 @@ public:
         QString negativeStock;
     };
 
-    ProductForm(Ui::frmcadastro_produtos &window, QObject *parent);
+    explicit ProductForm(Ui::frmcadastro_produtos &window);
 
     /// Refills the categories and selects the café's default one.
     void listCategories(const QString &standard);

@@ -44,8 +44,7 @@ QString headings()
 }
 } // namespace
 
-ProductList::ProductList(Ui::frmcadastro_produtos &window, ProductState &state, QObject *parent)
-    : QObject(parent), ui(window), m_state(state)
+ProductList::ProductList(Ui::frmcadastro_produtos &window, ProductState &state) : ui(window), m_state(state)
 {
     ui.cmdbuscar->setIconSize(searchPictureSize);
     ui.cmdbuscar->setIcon(bundledPicture("imgprocura", searchPictureSize));

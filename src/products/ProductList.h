@@ -14,7 +14,7 @@ class ProductList : public QObject
     Q_OBJECT
 
 public:
-    ProductList(Ui::frmcadastro_produtos &window, ProductState &state, QObject *parent);
+    ProductList(Ui::frmcadastro_produtos &window, ProductState &state);
 
     /// Loads the list anew. No row is picked afterwards.
     void load();

@@ -6,7 +6,7 @@
 #include "products/ProductList.h"
 #include "products/ProductTexts.h"
 
-void marcarCardapio(ProductList &list, bool inMenu)
+void setMenuFlags(ProductList &list, bool inMenu)
 {
     if (!productTexts.confirms(inMenu ? "MsgBox12" : "MsgBox11", "MsgBox11_2", vbQuestion))
         return;

@@ -3,4 +3,4 @@
 class ProductList;
 
 /// Sets or clears the menu flag of all products, the reserved one too, after a question.
-void marcarCardapio(ProductList &list, bool inMenu);
+void setMenuFlags(ProductList &list, bool inMenu);

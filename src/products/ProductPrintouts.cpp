@@ -52,7 +52,7 @@ void print(const FlexGrid &grid, const QString &total)
 }
 } // namespace
 
-void imprimirProdutos(Form &form, const FlexGrid &tab_produtos, int Total_Produtos, const QString &total)
+void printProducts(Form &form, const FlexGrid &tab_produtos, int Total_Produtos, const QString &total)
 {
     if (!productTexts.confirms("MsgBox18", "MsgBox18_2", vbQuestion))
         return;
@@ -66,7 +66,7 @@ void imprimirProdutos(Form &form, const FlexGrid &tab_produtos, int Total_Produt
     productTexts.notice("MsgBox20");
 }
 
-void salvarProdutos(const FlexGrid &tab_produtos, const QString &total)
+void saveProducts(const FlexGrid &tab_produtos, const QString &total)
 {
     const QString file = chooseListFile(productTexts, "MsgBox26", "MsgBox26_2");
     if (file.isEmpty())

@@ -10,7 +10,7 @@
 #include "products/ProductStatements.h"
 #include "products/ProductUniqueness.h"
 
-void cadastrarProduto(const Ui::frmcadastro_produtos &window, ProductForm &form, ProductList &list)
+void registerProduct(const Ui::frmcadastro_produtos &window, ProductForm &form, ProductList &list)
 {
     if (!form.testar_valores({.apostrophe = "MsgBox1", .noStock = "MsgBox3", .negativeStock = "MsgBox4"}))
         return;

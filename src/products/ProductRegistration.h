@@ -7,4 +7,4 @@ class frmcadastro_produtos;
 }
 
 /// Stores the product in the form as a new one, and adds it to the list even where the data file refused it.
-void cadastrarProduto(const Ui::frmcadastro_produtos &window, ProductForm &form, ProductList &list);
+void registerProduct(const Ui::frmcadastro_produtos &window, ProductForm &form, ProductList &list);

@@ -33,7 +33,7 @@ QString conditionOf(const FlexGrid &grid, int first, int last)
 }
 } // namespace
 
-bool removerProdutos(Form &form, const FlexGrid &tab_produtos, const ProductState &state)
+bool removeProducts(Form &form, const FlexGrid &tab_produtos, const ProductState &state)
 {
     if (tab_produtos.Rows() == 1) {
         productTexts.notice("MsgBox21");

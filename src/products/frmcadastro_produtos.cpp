@@ -18,21 +18,21 @@
 frmcadastro_produtos::frmcadastro_produtos() : ui(std::make_unique<Ui::frmcadastro_produtos>())
 {
     ui->setupUi(this);
-    m_form = new ProductForm(*ui, this);
-    m_list = new ProductList(*ui, m_state, this);
+    m_form = std::make_unique<ProductForm>(*ui);
+    m_list = std::make_unique<ProductList>(*ui, m_state);
     m_editing = std::make_unique<ProductEditing>(*ui, m_state, *m_form, *m_list);
 
-    connect(ui->cmdadicionar, &QPushButton::clicked, this, [this] { cadastrarProduto(*ui, *m_form, *m_list); });
+    connect(ui->cmdadicionar, &QPushButton::clicked, this, [this] { registerProduct(*ui, *m_form, *m_list); });
     connect(ui->cmdeditar, &QPushButton::clicked, this, [this] { m_editing->cmdeditar_Click(); });
     connect(ui->cmdremover, &QPushButton::clicked, this, &frmcadastro_produtos::cmdremover_Click);
     connect(ui->cmdcategoria, &QPushButton::clicked, this, &frmcadastro_produtos::cmdcategoria_Click);
-    connect(ui->cmdcardapio_sim, &QPushButton::clicked, this, [this] { marcarCardapio(*m_list, true); });
-    connect(ui->cmdcardapio_nao, &QPushButton::clicked, this, [this] { marcarCardapio(*m_list, false); });
+    connect(ui->cmdcardapio_sim, &QPushButton::clicked, this, [this] { setMenuFlags(*m_list, true); });
+    connect(ui->cmdcardapio_nao, &QPushButton::clicked, this, [this] { setMenuFlags(*m_list, false); });
     connect(ui->cmdimprimir, &QPushButton::clicked, this, [this] {
-        imprimirProdutos(*this, *ui->tab_produtos, m_state.Total_Produtos, ui->lbltotal_produtos->Caption());
+        printProducts(*this, *ui->tab_produtos, m_state.Total_Produtos, ui->lbltotal_produtos->Caption());
     });
     connect(ui->cmdsalvar, &QPushButton::clicked, this,
-            [this] { salvarProdutos(*ui->tab_produtos, ui->lbltotal_produtos->Caption()); });
+            [this] { saveProducts(*ui->tab_produtos, ui->lbltotal_produtos->Caption()); });
     connect(ui->cmdsair, &QPushButton::clicked, this, &frmcadastro_produtos::Unload);
 }
 
@@ -60,7 +60,7 @@ void frmcadastro_produtos::Form_Activate()
 
 void frmcadastro_produtos::cmdremover_Click()
 {
-    if (!removerProdutos(*this, *ui->tab_produtos, m_state))
+    if (!removeProducts(*this, *ui->tab_produtos, m_state))
         return;
     Form_Load();
     productTexts.notice("MsgBox25");

@@ -32,7 +32,7 @@ private:
 
     std::unique_ptr<Ui::frmcadastro_produtos> ui;
     ProductState m_state;
-    ProductForm *m_form;
-    ProductList *m_list;
+    std::unique_ptr<ProductForm> m_form;
+    std::unique_ptr<ProductList> m_list;
     std::unique_ptr<ProductEditing> m_editing;
 };

@@ -23,7 +23,7 @@ SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleD
 
     connect(ui.txtnome, &TextBox::Change, this, [this] {
         DoEvents(WaitingInput::Stays);
-        ui.txtnome->setCaretToEnd();
+        ui.txtnome->focusAtEnd();
     });
     connect(ui.txtnome, &TextBox::KeyPress, this, [this](int &KeyAscii) {
         if (m_discount.Bloqueio_Desconto)

@@ -49,7 +49,7 @@ SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, Q
     });
     connect(ui.txtcod_barra, &TextBox::Change, this, [this] {
         DoEvents(WaitingInput::Stays);
-        ui.txtcod_barra->setCaretToEnd();
+        ui.txtcod_barra->focusAtEnd();
     });
     connect(ui.txtcod_barra, &TextBox::KeyPress, this, [this](int &KeyAscii) {
         if (KeyAscii == vbKeyReturn && !m_discount.Bloqueio_Desconto)

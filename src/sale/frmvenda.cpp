@@ -169,7 +169,7 @@ void frmvenda::lbltotal_final_Change()
 void frmvenda::txtvalor_pago_Change()
 {
     DoEvents(WaitingInput::Stays);
-    ui->txtvalor_pago->setCaretToEnd();
+    ui->txtvalor_pago->focusAtEnd();
     showChange();
 }
 

@@ -28,7 +28,7 @@ public:
     void Listar_Produtos();
     /// Puts a quantity of a product into the cart.
     void Adicionar_Produto(const QString &descricao, double quantidade);
-    /// Forces a walk-in sale from outside the window. The misspelt name is the known one.
+    /// Forces a walk-in sale from outside the window. The misspelt name is the known one. Nothing calls it.
     void Clicar_Alvuso();
 
 protected:

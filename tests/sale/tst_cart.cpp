@@ -68,7 +68,7 @@ private slots:
         counter.open();
         counter.put("BALA");
         counter.press("optnão_pago");
-        counter.press("optavulsa");
+        Forms::use<frmvenda>().Clicar_Alvuso();
         // A buyer whom nobody knows cannot owe.
         QVERIFY(counter.at("optpago").property("checked").toBool());
         counter.sell("10", "10,00");

@@ -10,10 +10,10 @@ namespace {
 /// Two digits of a year mean the years from 1930 to 2029.
 int fullYear(int year)
 {
-    constexpr int FirstYearOfLastCentury = 30;
+    constexpr int firstYearOfLastCentury = 30;
     if (year >= 100)
         return year;
-    return year + (year < FirstYearOfLastCentury ? 2000 : 1900);
+    return year + (year < firstYearOfLastCentury ? 2000 : 1900);
 }
 } // namespace
 

@@ -10,7 +10,7 @@
 
 namespace {
 /// What a number means to its reader; the binary digits behind these must not decide a rounding.
-constexpr int SignificantDigits = 15;
+constexpr int significantDigits = 15;
 
 void refuseInfinite(double value)
 {
@@ -22,17 +22,17 @@ void refuseInfinite(double value)
 QString roundedDigits(double value, int places)
 {
     // One digit, a point, the other digits, and an exponent such as "e+03".
-    constexpr std::size_t Longest = 32;
-    std::array<char, Longest> text{};
-    std::to_chars(text.begin(), text.end(), std::abs(value), std::chars_format::scientific, SignificantDigits - 1);
+    constexpr std::size_t longest = 32;
+    std::array<char, longest> text{};
+    std::to_chars(text.begin(), text.end(), std::abs(value), std::chars_format::scientific, significantDigits - 1);
     qint64 digits = text.front() - '0';
     const char *next = &text.at(2);
     for (; *next != 'e'; ++next)
         digits = digits * 10 + (*next - '0');
-    const int shift = std::atoi(next + 1) - (SignificantDigits - 1) + places;
+    const int shift = std::atoi(next + 1) - (significantDigits - 1) + places;
     if (shift < 0) {
         qint64 unit = 1;
-        for (int i = 0; i < std::min(-shift, SignificantDigits + 1); ++i)
+        for (int i = 0; i < std::min(-shift, significantDigits + 1); ++i)
             unit *= 10;
         digits = (digits + unit / 2) / unit;
     }
@@ -51,7 +51,7 @@ QString grouped(QString integer)
 QString Cstr(double value)
 {
     refuseInfinite(value);
-    return QString::number(value, 'G', SignificantDigits).replace(u'.', RegionalSettings::current().decimalSeparator);
+    return QString::number(value, 'G', significantDigits).replace(u'.', RegionalSettings::current().decimalSeparator);
 }
 
 QString Format(double value, QStringView pattern)

@@ -82,10 +82,10 @@ public:
             ahead.take(u'+');
         if (!ahead.atDigit())
             return 0;
-        constexpr int BeyondEveryDouble = 10'000;
+        constexpr int beyondEveryDouble = 10'000;
         int exponent = 0;
         while (ahead.atDigit())
-            exponent = std::min(exponent * 10 + (ahead.takeDigit() - '0'), BeyondEveryDouble);
+            exponent = std::min(exponent * 10 + (ahead.takeDigit() - '0'), beyondEveryDouble);
         *this = ahead;
         return negative ? -exponent : exponent;
     }
@@ -283,9 +283,9 @@ std::optional<double> readNumber(std::string_view utf8)
     if (isAscii(utf8))
         return regionalNumber(utf8);
     // Some regions group by a no-break space or have a currency sign beyond ASCII.
-    constexpr qsizetype UsualLength = 128;
+    constexpr qsizetype usualLength = 128;
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-    QVarLengthArray<QChar, UsualLength> utf16(decoder.requiredSpace(static_cast<qsizetype>(utf8.size())));
+    QVarLengthArray<QChar, usualLength> utf16(decoder.requiredSpace(static_cast<qsizetype>(utf8.size())));
     const QChar *const end = decoder.appendToBuffer(utf16.data(), QByteArrayView(utf8));
     return readNumber(QStringView(utf16.data(), end));
 }

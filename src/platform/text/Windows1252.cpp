@@ -4,21 +4,21 @@
 #include <QStringEncoder>
 
 namespace {
-constexpr const char *CodePage = "windows-1252";
+constexpr const char *codePage = "windows-1252";
 /// What the library's converter writes for a character that the code page lacks.
-constexpr char Substitute = '\x1A';
+constexpr char substitute = '\x1A';
 } // namespace
 
 QString fromWindows1252(QByteArrayView bytes)
 {
-    QStringDecoder decoder(CodePage);
+    QStringDecoder decoder(codePage);
     return decoder.decode(bytes);
 }
 
 QByteArray toWindows1252(QStringView text)
 {
-    QStringEncoder encoder(CodePage);
+    QStringEncoder encoder(codePage);
     QByteArray bytes = encoder.encode(text);
-    bytes.replace(Substitute, '?');
+    bytes.replace(substitute, '?');
     return bytes;
 }

@@ -8,7 +8,7 @@
 class MemoBox : public QPlainTextEdit
 {
     Q_OBJECT
-    Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength)
+    Q_PROPERTY(int characterLimit READ characterLimit WRITE setCharacterLimit)
 
 public:
     explicit MemoBox(QWidget *parent = nullptr);
@@ -18,8 +18,8 @@ public:
     void setText(const QString &text);
 
     // As those of TextBox.
-    int maxLength() const { return m_limit; }
-    void setMaxLength(int limit) { m_limit = limit; }
+    int characterLimit() const { return m_limit; }
+    void setCharacterLimit(int limit) { m_limit = limit; }
 
 signals:
     // As those of TextBox.

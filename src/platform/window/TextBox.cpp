@@ -45,7 +45,7 @@ void TextBox::setText(const QString &text)
         QLineEdit::setText(text);
 }
 
-void TextBox::setCaretToEnd()
+void TextBox::focusAtEnd()
 {
     setFocus();
     end(false);

@@ -11,7 +11,7 @@
 class TextBox : public QLineEdit
 {
     Q_OBJECT
-    Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength)
+    Q_PROPERTY(int characterLimit READ characterLimit WRITE setCharacterLimit)
 
 public:
     explicit TextBox(QWidget *parent = nullptr);
@@ -21,11 +21,11 @@ public:
 
     /// The limit binds the attendant alone: a text that the program sets stays whole. It counts characters, not their
     /// code units, so that 50 emoji fit where 50 letters do.
-    int maxLength() const { return m_limit; }
-    void setMaxLength(int limit) { m_limit = limit; }
+    int characterLimit() const { return m_limit; }
+    void setCharacterLimit(int limit) { m_limit = limit; }
 
     /// Puts the keyboard focus here with the caret behind the last character.
-    void setCaretToEnd();
+    void focusAtEnd();
 
 signals:
     /// Any change of the text, typed or set by the program.

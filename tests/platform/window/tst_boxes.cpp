@@ -148,8 +148,8 @@ private slots:
 
     void limitBindsTheAttendantAndCountsCharacters()
     {
-        m_box->setMaxLength(50);
-        m_memo->setMaxLength(50);
+        m_box->setCharacterLimit(50);
+        m_memo->setCharacterLimit(50);
         const auto typedBehind = [](auto *box) {
             box->setText(QString("😀").repeated(60));
             box->setFocus();
