@@ -1,14 +1,15 @@
 #include "bench/BareFile.h"
 
+#include "data/Connection.h"
+
 #include <sqlcipher/sqlite3.h>
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <stdexcept>
 
 namespace {
-constexpr char password[] = "qzt3172";
-
 void check(int code, sqlite3 *file)
 {
     if (code != SQLITE_OK && code != SQLITE_ROW && code != SQLITE_DONE)
@@ -31,7 +32,7 @@ BareFile::BareFile(const QString &path)
 {
     check(sqlite3_open_v2(path.toUtf8().constData(), &m_file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr),
           m_file);
-    check(sqlite3_key(m_file, password, sizeof password - 1), m_file);
+    check(sqlite3_key(m_file, dataFilePassword, static_cast<int>(std::strlen(dataFilePassword))), m_file);
     write("PRAGMA synchronous = EXTRA; PRAGMA temp_store = MEMORY; PRAGMA cache_size = -16384");
     for (const char *name : {"Cdbl", "Val"})
         check(sqlite3_create_function(m_file, name, 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, readNumber, nullptr,

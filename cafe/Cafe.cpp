@@ -1,6 +1,7 @@
 #include "cafe/Cafe.h"
 
 #include "configuration/PointerFile.h"
+#include "data/Connection.h"
 #include "data/Esquema.h"
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
@@ -43,11 +44,6 @@ QString dataFileOf(const QString &folder)
 QString configFileOf(const QString &folder)
 {
     return resolveIgnoringCase(folder + "/config.ini");
-}
-
-QString connectText()
-{
-    return ";PWD=qzt3172";
 }
 
 DatabaseHandle openDataFile(const QString &folder)

@@ -30,8 +30,6 @@ void createCafe(const QString &folder, const CafeOptions &options);
 
 QString dataFileOf(const QString &folder);
 QString configFileOf(const QString &folder);
-/// The connect text that opens every café's data file.
-QString connectText();
 DatabaseHandle openDataFile(const QString &folder);
 
 CashPeriod tillStatus(const QString &folder);

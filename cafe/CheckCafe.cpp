@@ -16,8 +16,8 @@
 
 namespace {
 
-constexpr int LanguageFiles = 5;
-constexpr int LongestText = 500;
+constexpr int languageFiles = 5;
+constexpr int longestText = 500;
 
 void checkDesign(const QList<TableDef> &tables, QStringList &faults)
 {
@@ -92,7 +92,7 @@ bool isThere(const QString &path)
 
 QString valueOf(const QString &file, const QString &section, const QString &key)
 {
-    return GetPrivateProfileString(section, key, {}, LongestText, file);
+    return GetPrivateProfileString(section, key, {}, longestText, file);
 }
 
 void checkReceiptCounters(const QString &folder, QStringList &faults)
@@ -115,7 +115,7 @@ void checkLanguage(const QString &folder, const QString &language, QStringList &
 {
     const QString base = folder + "/Languages/" + language.chopped(4);
     QStringList files;
-    for (int number = 1; number <= LanguageFiles; ++number) {
+    for (int number = 1; number <= languageFiles; ++number) {
         const QString path = resolveIgnoringCase(base + QString::number(number) + language.right(4));
         if (isThere(path)) {
             checkIniForm(path, faults);
@@ -131,7 +131,7 @@ void checkLanguage(const QString &folder, const QString &language, QStringList &
             faults.append(name + " is missing");
         else if (value.size() < 3 || value.front() != value.back())
             faults.append(name + " does not stand between two equal marks");
-        else if (value.size() == LongestText - 1)
+        else if (value.size() == longestText - 1)
             faults.append(name + " is too long");
     }
 }

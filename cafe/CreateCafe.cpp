@@ -3,6 +3,7 @@
 #include "cafe/DemoData.h"
 #include "cafe/Resources.h"
 #include "cafe/TillSound.h"
+#include "data/Connection.h"
 #include "data/Esquema.h"
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
@@ -86,7 +87,7 @@ class Workshop
 {
 public:
     explicit Workshop(const QString &place)
-        : m_folder(place + "/.morvelane-cafe-XXXXXX"), m_use(m_folder.filePath(UseFile))
+        : m_folder(place + "/.morvelane-cafe-XXXXXX"), m_use(m_folder.filePath(useFile))
     {
         removeAbandoned(place);
         // A process that ends in any way no longer holds it, however long ago it began.
@@ -98,20 +99,20 @@ public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
 private:
-    static constexpr auto UseFile = "in-use";
+    static constexpr auto useFile = "in-use";
 
     /// Folders of processes that were killed.
     static void removeAbandoned(const QString &place)
     {
-        for (const QFileInfo &folder : QDir(place).entryInfoList({".morvelane-cafe-??????"}, Kinds)) {
-            const QString file = folder.filePath() + '/' + UseFile;
+        for (const QFileInfo &folder : QDir(place).entryInfoList({".morvelane-cafe-??????"}, kinds)) {
+            const QString file = folder.filePath() + '/' + useFile;
             QLockFile use(file);
             use.setStaleLockTime(0);
             if (QFileInfo::exists(file) && use.tryLock(0))
                 QDir(folder.filePath()).removeRecursively();
         }
     }
-    static constexpr QDir::Filters Kinds = QDir::Dirs | QDir::Hidden | QDir::NoSymLinks;
+    static constexpr QDir::Filters kinds = QDir::Dirs | QDir::Hidden | QDir::NoSymLinks;
 
     QTemporaryDir m_folder;
     QLockFile m_use;

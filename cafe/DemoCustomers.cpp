@@ -46,8 +46,8 @@ struct Person
 /// Each number below the count of names gives another person: the factor is prime and shares no divisor with it.
 Person person(const Names &names, qsizetype number)
 {
-    constexpr qsizetype Stride = 1000003;
-    qsizetype rest = number * Stride % names.count();
+    constexpr qsizetype stride = 1000003;
+    qsizetype rest = number * stride % names.count();
     const qsizetype first = rest % names.first.size();
     rest /= names.first.size();
     const qsizetype middle = rest % names.last.size();
@@ -81,9 +81,9 @@ QString dateBoxText(QDate date)
 
 QString documentOf(qsizetype row)
 {
-    constexpr qsizetype Documents = 90'000'000;
-    constexpr qsizetype Stride = 7'654'321; // shares no divisor with the count, so that no document comes twice
-    QString number = QString::number(10'000'000 + row * Stride % Documents);
+    constexpr qsizetype documents = 90'000'000;
+    constexpr qsizetype stride = 7'654'321; // shares no divisor with the count, so that no document comes twice
+    QString number = QString::number(10'000'000 + row * stride % documents);
     return number.insert(5, '.').insert(2, '.') + '-' + QString::number(row % 10);
 }
 
@@ -91,9 +91,9 @@ QString groupOf(quint64 row, bool underAge)
 {
     if (underAge)
         return drawn(row, Group, 3) == 0 ? "NORMAL" : "ESTUDANTE";
-    static const QStringList Groups{"NORMAL", "NORMAL",     "NORMAL",    "NORMAL",      "NORMAL",   "ESTUDANTE",
+    static const QStringList groups{"NORMAL", "NORMAL",     "NORMAL",    "NORMAL",      "NORMAL",   "ESTUDANTE",
                                     "VIP",    "FIDELIDADE", "ESTUDANTE", "FUNCIONÁRIO", "PROFESSOR"};
-    return Groups[drawn(row, Group, Groups.size())];
+    return groups[drawn(row, Group, groups.size())];
 }
 
 } // namespace

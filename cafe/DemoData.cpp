@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int ClosedPeriods = 10;
+constexpr int closedPeriods = 10;
 
 /// Columns of the built-in tables that hold an amount as a text, with a point as its separator. In number columns that
 /// point is the one of the statement.
@@ -38,9 +38,9 @@ void fillFromResource(Database &db, const QString &table)
 void fillCashPeriods(Database &db)
 {
     RowWriter periods(db, "Registro_Caixa", {"ID_Caixa", "Caixa_Aberto"});
-    for (int period = 1; period <= ClosedPeriods; ++period)
+    for (int period = 1; period <= closedPeriods; ++period)
         periods.write({QString::number(period), "False"});
-    periods.write({QString::number(ClosedPeriods + 1), "True"});
+    periods.write({QString::number(closedPeriods + 1), "True"});
 }
 
 } // namespace
@@ -78,7 +78,7 @@ void fillDemo(Database &db, const CafeOptions &options)
     fillCashPeriods(db);
     fillDemoProducts(db, options.products);
     fillDemoCustomers(db, options.customers);
-    fillDemoSales(db, options.sales, ClosedPeriods);
+    fillDemoSales(db, options.sales, closedPeriods);
 }
 
 QString demoDefaultMotive()

@@ -35,12 +35,12 @@ QString ean13(quint64 article)
 /// Beyond the written catalogue: the same goods in further makes, each with a name and a barcode of its own.
 void makeFurther(QStringList &row, const QStringList &columns, int further)
 {
-    constexpr quint64 FirstFreeArticle = 500'000'000;
+    constexpr quint64 firstFreeArticle = 500'000'000;
     const auto field = [&](const QString &name) -> QString & { return row[columns.indexOf(name)]; };
     field("Descrição") += QString(" REF %1").arg(further, 4, 10, QChar('0'));
     field("Cod") = "---";
     if (field("Servico") == "False") {
-        field("Cod_Barra") = ean13(FirstFreeArticle + static_cast<quint64>(further));
+        field("Cod_Barra") = ean13(firstFreeArticle + static_cast<quint64>(further));
         field("Quantidade") = QString::number(5 + drawn(static_cast<quint64>(further), 0, 60));
     }
 }

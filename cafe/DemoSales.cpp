@@ -58,8 +58,8 @@ void fillDemoSales(Database &db, int count, int periods)
     const Customer walkIn{"------", "------"};
     const QString noDiscount = Format(0, u"####0.00");
     const QDate today = Machine::current().now().date();
-    constexpr int OpeningHour = 8;
-    constexpr qint64 OpenSeconds = 14 * 3600;
+    constexpr int openingHour = 8;
+    constexpr qint64 openSeconds = 14 * 3600;
 
     RowWriter writer(db, "Venda_Produtos",
                      {"Codigo", "Data", "Hora", "Descrição", "Quantidade", "Nome", "Nick", "Avulsa", "Debito",
@@ -69,8 +69,8 @@ void fillDemoSales(Database &db, int count, int periods)
         const auto row = static_cast<quint64>(i);
         const qint64 position = static_cast<qint64>(i) * periods;
         const qint64 day = position / count;
-        const qint64 second = position % count * OpenSeconds / count;
-        const QDateTime moment(today.addDays(day - periods), QTime(OpeningHour, 0).addSecs(static_cast<int>(second)));
+        const qint64 second = position % count * openSeconds / count;
+        const QDateTime moment(today.addDays(day - periods), QTime(openingHour, 0).addSecs(static_cast<int>(second)));
         const QString date = FormatDate(moment);
         const QString time = FormatTime(moment);
         const QString period = QString::number(day + 1);

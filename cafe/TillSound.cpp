@@ -9,9 +9,9 @@
 
 namespace {
 
-constexpr quint32 SampleRate = 22050;
-constexpr double Duration = 1.1;    // seconds
-constexpr double SecondBell = 0.16; // seconds after the first
+constexpr quint32 sampleRate = 22050;
+constexpr double duration = 1.1;    // seconds
+constexpr double secondBell = 0.16; // seconds after the first
 
 /// A struck bell: the overtones of metal are no whole multiples of its tone, and the high ones fade first.
 double bell(double frequency, double time)
@@ -33,30 +33,30 @@ double bell(double frequency, double time)
 
 QByteArray tillSound()
 {
-    constexpr auto Samples = static_cast<quint32>(Duration * SampleRate);
-    constexpr quint16 Channels = 1;
-    constexpr quint16 Bits = 16;
-    constexpr quint16 FrameBytes = Channels * Bits / 8;
-    constexpr quint16 Pcm = 1;
-    constexpr double Loudness = 9000;
+    constexpr auto samples = static_cast<quint32>(duration * sampleRate);
+    constexpr quint16 channels = 1;
+    constexpr quint16 bits = 16;
+    constexpr quint16 frameBytes = channels * bits / 8;
+    constexpr quint16 pcm = 1;
+    constexpr double loudness = 9000;
 
     QByteArray wave;
     QDataStream out(&wave, QIODevice::WriteOnly);
     out.setByteOrder(QDataStream::LittleEndian);
     const auto tag = [&out](const char *name) { out.writeRawData(name, 4); };
     tag("RIFF");
-    out << quint32{36 + Samples * FrameBytes};
+    out << quint32{36 + samples * frameBytes};
     tag("WAVE");
     tag("fmt ");
-    out << quint32{16} << Pcm << Channels << SampleRate << quint32{SampleRate * FrameBytes} << FrameBytes << Bits;
+    out << quint32{16} << pcm << channels << sampleRate << quint32{sampleRate * frameBytes} << frameBytes << bits;
     tag("data");
-    out << quint32{Samples * FrameBytes};
-    for (quint32 i = 0; i < Samples; ++i) {
-        const double time = static_cast<double>(i) / SampleRate;
-        constexpr double E6 = 1318.5;
-        constexpr double A6 = 1760.0;
-        const double fadeOut = std::min(1.0, (Duration - time) / 0.05);
-        out << static_cast<qint16>(Loudness * fadeOut * (bell(E6, time) + bell(A6, time - SecondBell)));
+    out << quint32{samples * frameBytes};
+    for (quint32 i = 0; i < samples; ++i) {
+        const double time = static_cast<double>(i) / sampleRate;
+        constexpr double e6 = 1318.5;
+        constexpr double a6 = 1760.0;
+        const double fadeOut = std::min(1.0, (duration - time) / 0.05);
+        out << static_cast<qint16>(loudness * fadeOut * (bell(e6, time) + bell(a6, time - secondBell)));
     }
     return wave;
 }

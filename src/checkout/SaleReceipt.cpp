@@ -8,9 +8,9 @@
 #include "data/Queries.h"
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
-#include "platform/print/PageScale.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
+#include "windows/PageScale.h"
 
 namespace {
 constexpr int linesPerSheet = 58;

@@ -3,10 +3,10 @@
 #include "codes/LabelSheet.h"
 #include "codes/frmetiquetas.h"
 #include "platform/base/Err.h"
-#include "platform/print/PageScale.h"
 #include "platform/print/Printer.h"
 #include "platform/window/Forms.h"
 #include "windows/OpenForms.h"
+#include "windows/PageScale.h"
 
 namespace {
 constexpr int moduleTwips = 18;

@@ -2,8 +2,8 @@
 
 #include "codes/AllCodes.h"
 #include "codes/BarGrid.h"
-#include "platform/print/PageScale.h"
 #include "platform/print/Printer.h"
+#include "windows/PageScale.h"
 
 namespace {
 constexpr int columns = 3;

@@ -1,6 +1,7 @@
 #include "configuration/Globais.h"
 
-QString CaminhoBD;
-QString NomeIdioma;
-QString SimboloMoeda;
-const QString FormatoData;
+Globais &Globais::current()
+{
+    static Globais globais;
+    return globais;
+}

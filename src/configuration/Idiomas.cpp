@@ -6,10 +6,6 @@
 #include "platform/files/IniProfile.h"
 #include "platform/window/Forms.h"
 
-#include <QHash>
-
-#include <utility>
-
 namespace {
 constexpr int textBufferSize = 500; ///< the last place is the terminating zero's
 constexpr int numberedFiles = 5;
@@ -33,14 +29,6 @@ constexpr Section sectionsInMemory[] = {
     {"frmvenda", "String1 String1_2 String2 String3 String4 String5 String5_2 String6 String7 String7_2 String7_3 "
                  "String8 String9 String10"},
 };
-
-using TextKey = std::pair<QString, QString>;
-
-QHash<TextKey, QString> &loadedTexts()
-{
-    static QHash<TextKey, QString> texts;
-    return texts;
-}
 } // namespace
 
 QString Ler_Idioma(const QString &file, const QString &section, const QString &key)
@@ -68,7 +56,7 @@ void Carregar_Idioma()
     const IniBurst burst;
     for (const Section &section : sectionsInMemory) {
         for (const QString &key : QString(section.keys).split(' ')) {
-            loadedTexts()[{section.name, key}] = textoIdioma(section.name, key);
+            Globais::current().loadedTexts[{section.name, key}] = textoIdioma(section.name, key);
             DoEvents();
         }
     }
@@ -76,5 +64,5 @@ void Carregar_Idioma()
 
 QString textoCarregado(const QString &section, const QString &key)
 {
-    return loadedTexts().value({section, key});
+    return Globais::current().loadedTexts.value({section, key});
 }

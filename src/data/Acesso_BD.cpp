@@ -6,17 +6,11 @@
 #include "platform/files/Paths.h"
 #include "platform/jet/DBEngine.h"
 
+#include <QFile>
+
 #include <algorithm>
 
-DatabaseHandle BancoPrincipal;
-RecordsetHandle RecordsetGlobal1;
-RecordsetHandle RecordsetGlobal2;
-RecordsetHandle RecordsetGlobal3;
-
 namespace {
-/// Serves `Existe_Tabela` alone.
-DatabaseHandle tableTestDatabase;
-
 bool isSeparator(QChar character)
 {
     return character == '/' || character == '\\';
@@ -27,24 +21,20 @@ DatabaseHandle openShared(const QString &path, const QString &connect)
     return DBEngine::Workspaces(0).OpenDatabase(path, false, false, connect);
 }
 
-/// Puts a mended copy in the place of a damaged file and opens it.
+/// Puts a mended copy in the place of a damaged file and opens it; whole copies are what this engine has for that. It
+/// is never entered, as `Abrir_BD` looks for the error only after Existe_Arquivo has cleared it, and that order stays:
+/// a repair replaces the file under all other terminals.
 DatabaseHandle repairAndOpen(const QString &path, const QString &connect)
 {
-    const QString locale = ";LANGID=0x0409;CP=1252;COUNTRY=0" + connect;
     const QString folder = Extrair_Pasta(path);
     const QString mended = folder + "\\morvelaneB.mdb";
-    // The leftover is looked for behind the whole path instead of the folder, where none can be.
-    const QString leftover = path + "\\morvelaneB.mdb";
-
     DatabaseHandle database;
     OnErrorResumeNext(
-        [&] {
-            if (Existe_Arquivo(leftover))
-                Kill(leftover);
-        },
-        [&] { DBEngine::RepairDatabase(path); },
-        [&] { DBEngine::CompactDatabase(path, mended, locale, false, locale); }, [&] { Kill(path); },
-        [&] { renameFile(mended, folder + "\\Morvelane.mdb"); }, [&] { database = openShared(path, connect); });
+        // Looked for behind the whole path instead of the folder, where none can be.
+        [&] { Kill(path + "\\morvelaneB.mdb"); }, [&] { openShared(path, connect)->backupTo(mended); },
+        [&] { Kill(path); },
+        [&] { QFile::rename(resolveIgnoringCase(mended), resolveIgnoringCase(folder + "\\Morvelane.mdb")); },
+        [&] { database = openShared(path, connect); });
     return database;
 }
 
@@ -54,15 +44,10 @@ bool prepareQuery(RecordsetHandle &target, DatabaseHandle &database)
     Fechar_Recordset(target);
     if (database)
         return true;
-    Abrir_BD(CaminhoBD, 0, 3, textoConexao(), database);
+    Abrir_BD(CaminhoBD, 0, 3, connectText(), database);
     return false;
 }
 } // namespace
-
-QString textoConexao()
-{
-    return ";PWD=qzt3172";
-}
 
 DatabaseHandle Abrir_BD(QString &path, int, int, const QString &connect, DatabaseHandle &handle)
 {
@@ -71,8 +56,6 @@ DatabaseHandle Abrir_BD(QString &path, int, int, const QString &connect, Databas
 
     DatabaseHandle database;
     OnErrorGoToEnd([&] { database = openShared(path, connect); });
-    // Existe_Arquivo clears the error, so that the repair is never reached for a file that is there. The order stays:
-    // a repair replaces the file under all other terminals.
     if (Existe_Arquivo(path) && Err::Number() == ErrorNumber::UnrecognisedFormat)
         database = repairAndOpen(path, connect);
     if (Err::Number() != 0)
@@ -84,7 +67,7 @@ DatabaseHandle Abrir_BD(QString &path, int, int, const QString &connect, Databas
 
 void Abrir_Banco_Principal()
 {
-    Abrir_BD(CaminhoBD, 0, 3, textoConexao(), BancoPrincipal);
+    Abrir_BD(CaminhoBD, 0, 3, connectText(), BancoPrincipal);
 }
 
 Database &mainDatabase()
@@ -139,16 +122,17 @@ void Fechar_Recordsets_Globais()
 
 bool Existe_Tabela(const QString &name)
 {
+    // A handle of its own, which sees what other programs did since the main one was opened.
+    DatabaseHandle database;
     bool found = false;
-    Fechar_BD(tableTestDatabase);
-    Abrir_BD(CaminhoBD, 0, 3, textoConexao(), tableTestDatabase);
-    if (tableTestDatabase)
+    Abrir_BD(CaminhoBD, 0, 3, connectText(), database);
+    if (database)
         OnErrorResumeNext([&] {
-            const QList<TableDef> tables = tableTestDatabase->TableDefs();
+            const QList<TableDef> tables = database->TableDefs();
             found = std::any_of(tables.begin(), tables.end(),
                                 [&](const TableDef &table) { return table.Name.toUpper() == name.toUpper(); });
         });
-    Fechar_BD(tableTestDatabase);
+    Fechar_BD(database);
     return found;
 }
 

@@ -1,18 +1,9 @@
 #pragma once
 
-#include "platform/jet/Database.h"
+#include "configuration/Globais.h"
+#include "data/Connection.h"
 
 #include <QString>
-
-/// The program-wide database, opened by its first user and closed only at the end of the program.
-extern DatabaseHandle BancoPrincipal;
-/// The three program-wide recordsets, which the end of the program closes.
-extern RecordsetHandle RecordsetGlobal1;
-extern RecordsetHandle RecordsetGlobal2;
-extern RecordsetHandle RecordsetGlobal3;
-
-/// The password part that every caller passes to `Abrir_BD`.
-QString textoConexao();
 
 /// Opens the database into an empty handle, or gives the open one back, whatever its path; empty on failure. The two
 /// numbers are not looked at.
@@ -24,9 +15,11 @@ void Abrir_Banco_Principal();
 /// The database behind the main handle, opened at need. Raises when it can't be opened.
 Database &mainDatabase();
 
-/// Closes the target first, opens an empty handle, and runs a query to be read forward; empty on failure.
+/// Closes the target first, opens an empty handle, and runs a query to be read forward; empty on failure. The two
+/// numbers are not looked at.
 RecordsetHandle Abrir_Recordset(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int = 2,
                                 int = 512);
+/// The same with the caller's type and options, all of which are read forward. Nothing calls it.
 RecordsetHandle Abrir_Recordset_Opcoes(RecordsetHandle &target, DatabaseHandle &handle, const QString &sql, int type,
                                        int options);
 /// Leaves the handle empty and the error state clear, whatever happened.

@@ -3,8 +3,6 @@
 #include "data/Queries.h"
 #include "platform/text/Numbers.h"
 
-double IdCaixa = 0;
-
 void Obter_Ultimo_Caixa()
 {
     IdCaixa = 0;

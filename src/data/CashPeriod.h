@@ -1,7 +1,6 @@
 #pragma once
 
-/// Number of the newest cash period, as last read.
-extern double IdCaixa;
+#include "configuration/Globais.h"
 
 /// Reads the newest cash period into `IdCaixa`, 0 when there is none.
 void Obter_Ultimo_Caixa();

@@ -5,12 +5,12 @@
 #include "platform/base/LongWork.h"
 #include "platform/base/Machine.h"
 #include "platform/files/TextOutput.h"
-#include "platform/print/PageScale.h"
 #include "platform/print/Printer.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Space.h"
 #include "platform/window/FlexGrid.h"
 #include "platform/window/Prompts.h"
+#include "windows/PageScale.h"
 #include "windows/WindowTexts.h"
 
 #include <algorithm>

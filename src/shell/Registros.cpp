@@ -5,18 +5,7 @@
 
 namespace {
 constexpr std::uint32_t KEY_READ = 131097;
-
-/// For whoever looks for a printer that isn't found: at the counter these texts would help nobody.
-constexpr bool showRegistryErrors = false;
-
-QString registryFailure(std::int32_t code)
-{
-    if constexpr (showRegistryErrors)
-        MsgBox(Texto_Erro_Registro(code));
-    else
-        static_cast<void>(code);
-    return "Error";
-}
+const QString failed = "Error";
 } // namespace
 
 QString Ler_Registro(const QString &keyPath, const QString &valueName)
@@ -28,13 +17,13 @@ QString Ler_Registro(const QString &keyPath, const QString &valueName)
         return {};
 
     std::uint32_t key = 0;
-    if (const auto status = RegistryStore::RegOpenKeyEx(root, subkey, 0, KEY_READ, &key))
-        return registryFailure(status);
+    if (RegistryStore::RegOpenKeyEx(root, subkey, 0, KEY_READ, &key) != 0)
+        return failed;
 
     QString value;
     // The key stays open after a failed read, as it always has; the store holds nothing for it.
-    if (const auto status = RegistryStore::RegQueryValueEx(key, valueName, &value))
-        return registryFailure(status);
+    if (RegistryStore::RegQueryValueEx(key, valueName, &value) != 0)
+        return failed;
 
     RegistryStore::RegCloseKey(key);
     value.chop(1);

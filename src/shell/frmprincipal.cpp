@@ -9,7 +9,6 @@
 #include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/files/Paths.h"
-#include "platform/print/PageScale.h"
 #include "platform/print/Printer.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/Forms.h"
@@ -20,6 +19,7 @@
 #include "shell/Registros.h"
 #include "ui_frmprincipal.h"
 #include "windows/OpenForms.h"
+#include "windows/PageScale.h"
 
 #include <algorithm>
 #include <chrono>

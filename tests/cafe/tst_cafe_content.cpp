@@ -1,5 +1,6 @@
 #include "cafe/Cafe.h"
 #include "cafe/Resources.h"
+#include "data/Connection.h"
 #include "data/Esquema.h"
 #include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"

@@ -1,3 +1,4 @@
+#include "data/Connection.h"
 #include "platform/files/IniProfile.h"
 #include "tests/support/EngineSql.h"
 
@@ -139,7 +140,7 @@ private slots:
         QVERIFY(QFile::setPermissions(at("cafe"), QFile::Permissions(0x7775)));
         QVERIFY(QFile::setPermissions(at("cafe/config.ini"), QFile::Permissions(0x6664)));
         QVERIFY(mkfifo(at("cafe/inf.rcb").toUtf8().constData(), 0600) == 0);
-        runEngineSql(at("cafe/Morvelane.mdb"), "qzt3172",
+        runEngineSql(at("cafe/Morvelane.mdb"), dataFilePassword,
                      "CREATE TRIGGER extra AFTER INSERT ON Clientes BEGIN DELETE FROM Links; END;"
                      "CREATE VIEW \"a\x1b[31m\" AS SELECT 1");
         const Answer answer = tool({"check", at("cafe")});

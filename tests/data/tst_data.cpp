@@ -48,14 +48,14 @@ private slots:
         cafe->writeFile("broken.mdb", content);
         const QStringList before = QDir(cafe->folder()).entryList();
         DatabaseHandle handle;
-        QVERIFY(!Abrir_BD(path, 0, 3, textoConexao(), handle));
+        QVERIFY(!Abrir_BD(path, 0, 3, connectText(), handle));
         QVERIFY(!handle);
         // No repair was tried, since the error is forgotten by then.
         QCOMPARE(Err::Number(), 0);
         QCOMPARE(cafe->readFile("broken.mdb"), content);
         QCOMPARE(QDir(cafe->folder()).entryList(), before);
         QVERIFY(!Abrir_BD(CaminhoBD, 0, 3, ";PWD=another", handle));
-        QVERIFY(Abrir_BD(CaminhoBD, 0, 3, textoConexao(), handle));
+        QVERIFY(Abrir_BD(CaminhoBD, 0, 3, connectText(), handle));
         Fechar_BD(handle);
     }
 
@@ -68,6 +68,12 @@ private slots:
         QVERIFY(!rs);
         QVERIFY(Err::Number() != 0);
         QVERIFY_THROWS_EXCEPTION(RunTimeError, before->MoveNext());
+
+        Abrir_Recordset_Opcoes(RecordsetGlobal3, BancoPrincipal, "Select Count(*) From Clientes", dbOpenDynaset,
+                               dbSeeChanges);
+        QVERIFY(RecordsetGlobal3 && !RecordsetGlobal3->Eof());
+        Fechar_Recordsets_Globais();
+        QVERIFY(!RecordsetGlobal3);
     }
 
     void keysOfANumberBox()
@@ -89,6 +95,12 @@ private slots:
         CaminhoBD = cafe->folder() + "/anything.else";
         QCOMPARE(Categoria_Do_Produto("TESTE"), QString("BEBIDAS"));
         QCOMPARE(CaminhoBD, cafe->folder() + "/\\Morvelane.mdb");
+    }
+
+    void foldersEndWithoutASeparator()
+    {
+        QCOMPARE(Extrair_Pasta("/srv/cafe//\\Morvelane.mdb"), QString("/srv/cafe"));
+        QCOMPARE(Extrair_Pasta("Morvelane.mdb"), QDir::currentPath());
     }
 
     void theNewestCashPeriodDecides()

@@ -2,6 +2,7 @@
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
 #include "platform/window/Forms.h"
+#include "shell/Registros.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/Attendant.h"
 #include "tests/support/Controls.h"
@@ -144,6 +145,12 @@ private slots:
         QTimer::singleShot(0, [&] { replaceText(shell.at("txtbasedados"), shell.cafe.dataFile()); });
         QVERIFY(shell.enters());
         QCOMPARE(shell.pointer(), shell.cafe.dataFile());
+    }
+
+    void codesOfTheRegistryHaveTexts()
+    {
+        QCOMPARE(Texto_Erro_Registro(1015), QString("The Registry Database is corrupt!"));
+        QCOMPARE(Texto_Erro_Registro(3), QString("Undefined Error Code:  3"));
     }
 };
 

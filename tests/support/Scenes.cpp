@@ -7,7 +7,6 @@
 #include "configuration/Idiomas.h"
 #include "customers/frmcadastro_clientes.h"
 #include "photo/frmwebcam.h"
-#include "platform/print/PageScale.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Forms.h"
 #include "products/frmcadastro_produtos.h"
@@ -16,6 +15,7 @@
 #include "tests/support/Controls.h"
 #include "tests/support/Portrait.h"
 #include "windows/OpenForms.h"
+#include "windows/PageScale.h"
 
 #include <QCoreApplication>
 #include <QLabel>

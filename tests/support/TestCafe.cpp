@@ -34,12 +34,7 @@ void forgetProgram()
 {
     Descarregar_Forms();
     DoEvents();
-    Fechar_Recordsets_Globais();
-    Fechar_BD(BancoPrincipal);
-    CaminhoBD.clear();
-    NomeIdioma.clear();
-    SimboloMoeda.clear();
-    IdCaixa = 0;
+    Globais::current() = {};
     Printer::current() = Printer();
     Err::Clear();
 }
@@ -92,7 +87,7 @@ void TestCafe::loseField(const QString &table, const QString &field)
     const QString sql =
         "PRAGMA writable_schema = ON; UPDATE sqlite_master SET sql = replace(sql, '\"%1\"', '\"%1 old\"')"
         " WHERE tbl_name = '%2'; PRAGMA schema_version = %3";
-    runEngineSql(dataFile(), textoConexao().section('=', 1), sql.arg(field, table).arg(++version));
+    runEngineSql(dataFile(), dataFilePassword, sql.arg(field, table).arg(++version));
 }
 
 void TestCafe::executeAll(const QStringList &statements)

@@ -1,7 +1,7 @@
 #include "tests/support/TestDesk.h"
 
-#include "platform/print/PageScale.h"
 #include "windows/OpenForms.h"
+#include "windows/PageScale.h"
 
 #include <QTest>
 

@@ -9,8 +9,8 @@
 #include <utility>
 
 namespace {
-constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
-constexpr qsizetype WideMarkSize = 2;
+constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
+constexpr qsizetype wideMarkSize = 2;
 
 std::optional<QStringConverter::Encoding> wideEncoding(QByteArrayView bytes)
 {
@@ -24,9 +24,9 @@ std::optional<QStringConverter::Encoding> wideEncoding(QByteArrayView bytes)
 /// Half a character at the end is left out; it stays in the file.
 QString wideText(QByteArrayView bytes, QStringConverter::Encoding encoding)
 {
-    const qsizetype units = (bytes.size() - WideMarkSize) / 2;
+    const qsizetype units = (bytes.size() - wideMarkSize) / 2;
     std::u16string text(static_cast<std::size_t>(units), u'\0');
-    const char *first = bytes.data() + WideMarkSize;
+    const char *first = bytes.data() + wideMarkSize;
     if (encoding == QStringConverter::Utf16LE)
         qFromLittleEndian<char16_t>(first, units, text.data());
     else
@@ -85,8 +85,8 @@ IniText::IniText(QByteArray bytes) : m_bytes(std::move(bytes)), m_text(m_bytes),
     // Each unit that is no character becomes one that is, so that the text's units keep their places.
     if (m_wide)
         m_text = wideText(m_bytes, *m_wide).toUtf8();
-    else if (m_bytes.startsWith(ByteOrderMark))
-        m_start = ByteOrderMark.size();
+    else if (m_bytes.startsWith(byteOrderMark))
+        m_start = byteOrderMark.size();
 }
 
 std::optional<QString> IniText::value(QStringView section, QStringView key) const
@@ -115,7 +115,7 @@ void IniText::setValue(const QString &section, const QString &key, const QString
         const qsizetype before = fromUtf8(QByteArrayView(m_text).first(place.begin)).size();
         const qsizetype units = fromUtf8(QByteArrayView(m_text).sliced(place.begin, length)).size();
         const QByteArray wide = QStringEncoder(*m_wide)(text);
-        m_bytes.replace(WideMarkSize + 2 * before, 2 * units, wide);
+        m_bytes.replace(wideMarkSize + 2 * before, 2 * units, wide);
         m_text.replace(place.begin, length, text.toUtf8());
         return;
     }

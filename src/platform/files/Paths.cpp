@@ -83,13 +83,13 @@ QString resolveIgnoringCase(const QString &path)
 
 int GetAttr(const QString &path)
 {
-    constexpr int ReadOnly = 1;
-    constexpr int Directory = 16;
-    constexpr int Archive = 32;
+    constexpr int readOnly = 1;
+    constexpr int directory = 16;
+    constexpr int archive = 32;
     const QFileInfo info = existing(path);
     if (info.isDir())
-        return Directory;
-    return info.isWritable() ? Archive : ReadOnly;
+        return directory;
+    return info.isWritable() ? archive : readOnly;
 }
 
 QString Dir(const QString &path, int)
@@ -110,18 +110,6 @@ void Kill(const QString &path)
 void FileCopy(const QString &from, const QString &to, const QString &rightsOf)
 {
     writeWholeFile(to, readRegularFile(resolveIgnoringCase(from)), rightsOf);
-}
-
-void renameFile(const QString &from, const QString &to)
-{
-    const QString source = existingFile(from);
-    QString target = resolveIgnoringCase(to);
-    // The file itself in other letters is no obstacle: the new spelling is what is wanted.
-    if (QFileInfo::exists(target) && QFileInfo(target) == QFileInfo(source))
-        target = QFileInfo(target).path() + u'/' + QFileInfo(withSlashes(to)).fileName();
-    QFile file(source);
-    if (!file.rename(target))
-        throw RunTimeError(ErrorNumber::PathAccess, file.errorString() + ": " + to);
 }
 
 QString CurDir()

@@ -20,8 +20,5 @@ void Kill(const QString &path);
 /// FileNotFound or PathAccess.
 void FileCopy(const QString &from, const QString &to, const QString &rightsOf = {});
 
-/// Renames a file. Raises FileNotFound or PathAccess.
-void renameFile(const QString &from, const QString &to);
-
 /// The current folder.
 QString CurDir();

@@ -17,12 +17,12 @@
 #include <algorithm>
 
 namespace {
-constexpr int WithoutWaiting = O_WRONLY | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW | O_CLOEXEC;
+constexpr int withoutWaiting = O_WRONLY | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW | O_CLOEXEC;
 /// The sticky bit tells a file that was made here from all others: this system gives it no meaning on files and nothing
 /// else sets it, every attendant's terminal sees it, and it goes along where a copy or an archive keeps the rights.
 /// Where it is lost the file is refused, which harms nothing.
-constexpr mode_t Mark = S_ISVTX;
-constexpr mode_t NewPort = Mark | 0660;
+constexpr mode_t mark = S_ISVTX;
+constexpr mode_t newPort = mark | 0660;
 
 [[noreturn]] void refusePort(const QString &name)
 {
@@ -48,7 +48,7 @@ bool isFolderAt(int folder, const QString &path)
 
 bool isPort(const struct stat &status)
 {
-    return S_ISCHR(status.st_mode) || (S_ISREG(status.st_mode) && (status.st_mode & Mark) != 0);
+    return S_ISCHR(status.st_mode) || (S_ISREG(status.st_mode) && (status.st_mode & mark) != 0);
 }
 } // namespace
 
@@ -91,7 +91,7 @@ int openPortFile(const QString &name)
     if ((!isNew && !isPort(status)) || (!isDevice && !mayHoldPorts(path)))
         refusePort(name);
 
-    const int descriptor = openat(folder, file.constData(), WithoutWaiting | (isNew ? O_CREAT | O_EXCL : 0), NewPort);
+    const int descriptor = openat(folder, file.constData(), withoutWaiting | (isNew ? O_CREAT | O_EXCL : 0), newPort);
     // It may have been exchanged meanwhile; and where the mark doesn't last the file could never be written anew.
     if (descriptor < 0 || fstat(descriptor, &status) != 0 || !isPort(status) || S_ISCHR(status.st_mode) != isDevice ||
         (!isDevice && ftruncate(descriptor, 0) != 0)) {

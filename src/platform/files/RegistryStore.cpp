@@ -3,25 +3,25 @@
 #include "platform/base/Machine.h"
 
 namespace {
-constexpr std::uint32_t CurrentConfig = 0x80000005;
+constexpr std::uint32_t currentConfig = 0x80000005;
 /// Any handle serves, as there is one key only.
-constexpr std::uint32_t PrintersKey = 1;
+constexpr std::uint32_t printersKey = 1;
 } // namespace
 
 std::int32_t RegistryStore::RegOpenKeyEx(std::uint32_t root, const QString &subkey, std::uint32_t, std::uint32_t,
                                          std::uint32_t *key)
 {
-    constexpr const char *Printers = "System\\CurrentControlSet\\Control\\Print\\Printers";
-    if (root != CurrentConfig || subkey.compare(Printers, Qt::CaseInsensitive) != 0)
+    constexpr const char *printers = "System\\CurrentControlSet\\Control\\Print\\Printers";
+    if (root != currentConfig || subkey.compare(printers, Qt::CaseInsensitive) != 0)
         return FileNotFound;
-    *key = PrintersKey;
+    *key = printersKey;
     return Success;
 }
 
 std::int32_t RegistryStore::RegQueryValueEx(std::uint32_t key, const QString &name, QString *value)
 {
     const QString printer = Machine::current().defaultPrinterName();
-    if (key != PrintersKey || name.compare("Default", Qt::CaseInsensitive) != 0 || printer.isEmpty())
+    if (key != printersKey || name.compare("Default", Qt::CaseInsensitive) != 0 || printer.isEmpty())
         return FileNotFound;
     *value = printer + QChar(u'\0');
     return Success;

@@ -15,7 +15,7 @@
 #include <cstdio>
 
 namespace {
-constexpr mode_t ReadAndWrite = 0666;
+constexpr mode_t readAndWrite = 0666;
 
 struct stat statusOf(const QString &path)
 {
@@ -48,7 +48,7 @@ void settleRights(int descriptor, const QString &path, const QString &rightsOf)
     }
     const struct stat folder = statusOf(QFileInfo(QFileInfo(path).path()).canonicalFilePath());
     const struct stat sibling = rightsOf.isEmpty() ? folder : statusOf(resolveIgnoringCase(rightsOf));
-    giveRights(descriptor, (S_ISREG(sibling.st_mode) ? sibling : folder).st_mode & ReadAndWrite, folder.st_gid);
+    giveRights(descriptor, (S_ISREG(sibling.st_mode) ? sibling : folder).st_mode & readAndWrite, folder.st_gid);
 }
 } // namespace
 
@@ -65,15 +65,6 @@ void giveRights(int descriptor, mode_t rights, gid_t group)
         rights = (rights & ~mode_t(S_IRWXG)) | ((rights & S_IRWXO) << 3);
     // A file system without rights of its own gives them by its mount options.
     fchmod(descriptor, rights);
-}
-
-void takeRights(const QString &path, const QString &from)
-{
-    const int descriptor = openWithoutWaiting(path);
-    const struct stat model = statusOf(from);
-    if (descriptor >= 0 && S_ISREG(model.st_mode))
-        giveRights(descriptor, model.st_mode & ACCESSPERMS, model.st_gid);
-    close(descriptor);
 }
 
 QByteArray readRegularFile(const QString &path)

@@ -19,8 +19,5 @@ void writeWholeFile(const QString &path, const QByteArray &content, const QStrin
 /// Whether a path leads through any folder below the root.
 bool namesFolder(const QString &path);
 
-/// Gives a file the rights and the group of another one.
-void takeRights(const QString &path, const QString &from);
-
 /// Sets rights and group. A file that can't be given to the group gives its own group no more than it gives strangers.
 void giveRights(int descriptor, mode_t rights, gid_t group);

@@ -16,8 +16,8 @@
 
 namespace {
 // A printer that is off line holds the windows for ten seconds once, not for ever and not at every line.
-constexpr int WaitMilliseconds = 50;
-constexpr int MostWaits = 200;
+constexpr int waitMilliseconds = 50;
+constexpr int mostWaits = 200;
 
 int openChosenFile(const QString &name)
 {
@@ -50,7 +50,7 @@ void TextOutput::OpenPort(const QString &name)
 
 void TextOutput::use(int descriptor)
 {
-    m_waitsLeft = MostWaits;
+    m_waitsLeft = mostWaits;
     // Nothing stays in a buffer, so that a printer out of paper or a full disk shows at the line it refuses.
     m_file.open(descriptor, QIODevice::WriteOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle);
 }
@@ -60,7 +60,7 @@ bool TextOutput::wait()
     if (m_waitsLeft == 0)
         return false;
     --m_waitsLeft;
-    Machine::current().sleep(WaitMilliseconds);
+    Machine::current().sleep(waitMilliseconds);
     return true;
 }
 

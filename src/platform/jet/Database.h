@@ -27,8 +27,8 @@ public:
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
 
-    /// Every type reads the whole answer at once and forward only.
-    RecordsetHandle OpenRecordset(const QString &sql, int type = dbOpenForwardOnly, int options = 0);
+    /// Reads the whole answer at once and forward only, whatever the type and the options, which aren't looked at.
+    RecordsetHandle OpenRecordset(const QString &sql, int = dbOpenForwardOnly, int = 0);
     void Execute(const QString &sql);
     QList<TableDef> TableDefs() const;
     void Close();

@@ -55,14 +55,6 @@ private slots:
         check("b.TXT", "B.TXT");
     }
 
-    void renames()
-    {
-        renameFile("Café\\fotos\\JOÃO.jpg", "CAFÉ\\Maria.jpg");
-        for (const char *refused : {"Café/CONFIG.ini", "gone/Maria.jpg"})
-            QCOMPARE(failure([&] { renameFile("Café/Maria.jpg", refused); }), ErrorNumber::PathAccess);
-        QCOMPARE(QDir("Café").entryList(QDir::Files, QDir::Name), QStringList({"Config.INI", "Maria.jpg"}));
-    }
-
     void copiesWholeOrNotAtAll()
     {
         const QByteArray photo(200'000, 'p');

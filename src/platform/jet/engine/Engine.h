@@ -9,17 +9,16 @@
 
 #include <memory>
 
-/// Which file a session works on, and how.
+/// Which file a session works on.
 struct FileAccess
 {
     QString path;
     QString password;
-    bool exclusive = false;
-    bool readOnly = false;
 };
 
 /// One open data file behind a storage engine. Statements come bound to the file's catalogue. Every operation raises a
-/// RunTimeError when the file, the statement or a value is at fault.
+/// RunTimeError when the file, the statement or a value is at fault; a fault of the engine itself, or of its use here,
+/// is none.
 ///
 /// Where others hold the file, opening it and every operation wait by `Patience::waitForOthers`, which knows how long
 /// and gives the sign of life, and raise FileLocked when it answers no. An operation that takes long by itself calls
@@ -57,10 +56,6 @@ public:
     virtual QStringList faults() = 0;
     /// Triggers and views that this program did not put there, one line each: they would run at its statements.
     virtual QStringList foreignParts() = 0;
-    /// Mends what can be made anew from the file's own rows; raises when faults stay.
-    virtual void repair() = 0;
-    /// Gives unused room back.
-    virtual void compact() = 0;
     virtual void backupTo(const QString &path) = 0;
 };
 

@@ -9,6 +9,9 @@
 
 #include <sys/stat.h>
 
+#include <new>
+#include <stdexcept>
+
 namespace {
 
 /// Statements with lists of differing lengths must not fill the memory.
@@ -45,6 +48,23 @@ bool meansLost(int code)
            primary == SQLITE_NOTADB || primary == SQLITE_READONLY;
 }
 
+/// Memory that is gone, and calls that this program makes wrongly, are no fault of a file or a statement: no routine
+/// may go on over them.
+void refuseOwnFault(int code)
+{
+    switch (code & 0xFF) {
+    case SQLITE_NOMEM:
+        throw std::bad_alloc();
+    case SQLITE_INTERNAL:
+    case SQLITE_MISUSE:
+    case SQLITE_RANGE:
+        throw std::logic_error(sqlite3_errstr(code));
+    default:
+        break;
+    }
+}
+
+/// What isn't named here is the statement's own fault.
 int errorNumber(int code)
 {
     if (code == SQLITE_READONLY_DBMOVED)
@@ -102,13 +122,11 @@ SqlCipherConnection::SqlCipherConnection(const FileAccess &access, Mode mode) : 
 
 void SqlCipherConnection::openHandle(Mode mode)
 {
-    int flags = m_access.readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
-    if (mode == Mode::Create)
-        flags |= SQLITE_OPEN_CREATE;
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (mode == Mode::Create ? SQLITE_OPEN_CREATE : 0);
     sqlite3 *handle = nullptr;
-    const int code =
-        sqlite3_open_v2(QFile::encodeName(m_access.path).constData(), &handle, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int code = sqlite3_open_v2(QFile::encodeName(m_access.path).constData(), &handle, flags, nullptr);
     m_handle.reset(handle);
+    refuseOwnFault(code);
     if (code != SQLITE_OK)
         throw RunTimeError(ErrorNumber::CannotOpenFile, QString("\"%1\" cannot be opened.").arg(m_access.path));
 }
@@ -133,11 +151,6 @@ void SqlCipherConnection::setUp(Mode mode)
     run("PRAGMA synchronous = EXTRA");
     run("PRAGMA temp_store = MEMORY");
     run("PRAGMA cache_size = -16384");
-    if (m_access.exclusive) {
-        run("PRAGMA locking_mode = EXCLUSIVE");
-        run("BEGIN EXCLUSIVE");
-        run("COMMIT");
-    }
 }
 
 bool SqlCipherConnection::reachesItsFile()
@@ -190,6 +203,7 @@ bool SqlCipherConnection::step(sqlite3_stmt *statement)
 
 void SqlCipherConnection::raise(int code)
 {
+    refuseOwnFault(code);
     if (meansLost(code))
         m_lost = true;
     throw RunTimeError(errorNumber(code), QString::fromUtf8(sqlite3_errmsg(handle())));

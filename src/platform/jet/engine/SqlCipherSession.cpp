@@ -205,19 +205,6 @@ QStringList SqlCipherSession::foreignParts()
     return foreignSqlCipherParts(m_connection);
 }
 
-void SqlCipherSession::repair()
-{
-    m_connection.run("REINDEX");
-    const QStringList left = faults();
-    if (!left.isEmpty())
-        throw RunTimeError(ErrorNumber::UnrecognisedFormat, left.first());
-}
-
-void SqlCipherSession::compact()
-{
-    m_connection.run("VACUUM");
-}
-
 void SqlCipherSession::backupTo(const QString &path)
 {
     backupSqlCipherFile(m_connection, path);

@@ -24,8 +24,6 @@ public:
     void turnIntoNumbers(const FieldsToNumbers &change) override;
     QStringList faults() override;
     QStringList foreignParts() override;
-    void repair() override;
-    void compact() override;
     void backupTo(const QString &path) override;
 
 private:
