@@ -4,10 +4,12 @@
 #include "configuration/Arquivos_INI.h"
 #include "platform/base/Err.h"
 #include "platform/print/Printer.h"
+#include "windows/PageScale.h"
 
 namespace {
 constexpr int sheetColumns = 98;
-}
+constexpr double receiptPoints = 10;
+} // namespace
 
 template <typename Operation>
 void ReceiptDevice::attempt(Operation &&operation)
@@ -28,13 +30,8 @@ void ReceiptDevice::open()
 
 void ReceiptDevice::beginPage()
 {
-    if (m_toPort)
-        return;
-    Printer &printer = Printer::current();
-    printer.setFontName("Courier New");
-    printer.setFontSize(10);
-    printer.setFontBold(false);
-    printer.setScaleMode(ScaleMode::Characters);
+    if (!m_toPort)
+        setUpPrinter(Printer::current(), receiptPoints, ScaleMode::Characters);
 }
 
 void ReceiptDevice::place(int column, int line, const QString &text)

@@ -2,6 +2,7 @@
 
 #include "codes/AllCodes.h"
 #include "codes/BarGrid.h"
+#include "configuration/Globais.h"
 #include "platform/print/Printer.h"
 #include "windows/PageScale.h"
 
@@ -19,20 +20,7 @@ constexpr double spaceStretch = 1.3;
 constexpr qsizetype longestText = 12;
 constexpr double numberPoints = 16;
 
-/// The bars of the label drawn last. A code of an unknown name draws them once more, and that stays.
-QString Padrao_Barras;
-
-void setUpSheet(Printer &printer)
-{
-    Salvar_Escala_Impressora();
-    printer.setFontName("Courier New");
-    printer.setFontSize(numberPoints);
-    printer.setFontBold(false);
-    printer.setPageSize(a4Width, a4Height);
-    printer.setScaleMode(ScaleMode::Twips);
-    printer.setDocumentName("Etiquetas");
-    printer.keepScale();
-}
+QString &Padrao_Barras = Globais::current().Padrao_Barras;
 
 /// Brings the text into the form that the code takes, too.
 void encode(const QString &tipo, QString &texto)
@@ -117,7 +105,9 @@ void drawSheet(Printer &printer, const BarLabels &etiquetas, Progress &progress)
 void Imprimir_Barras(const BarLabels &etiquetas)
 {
     Printer &printer = Printer::current();
-    setUpSheet(printer);
+    setUpSheet(printer, numberPoints, ScaleMode::Twips);
+    printer.setDocumentName("Etiquetas");
+    printer.keepScale();
     const int dotsPerInch = etiquetas.mostrar_barras ? printer.deviceDotsPerInch() : 0;
     Progress progress{.waiting = etiquetas.textos, .grid = BarGrid(dotsPerInch)};
     drawSheet(printer, etiquetas, progress);

@@ -33,6 +33,8 @@ struct Globais
     /// The page that the shared printer goes back to after a printout, in twips.
     int keptPageWidth = 0;
     int keptPageHeight = 0;
+    /// The bars of the label drawn last. A code of an unknown name draws them once more, and that stays.
+    QString Padrao_Barras;
 
     static Globais &current();
 };

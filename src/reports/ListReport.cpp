@@ -17,6 +17,7 @@
 
 namespace {
 constexpr int fullPage = 59;
+constexpr double reportPoints = 10;
 
 QString momentText()
 {
@@ -68,16 +69,6 @@ void writeEntry(const ListReport &list, int row, Write write)
     }
 }
 
-void setUpPage(Printer &printer)
-{
-    printer.setFontName("Courier New");
-    printer.setFontSize(10);
-    printer.setFontBold(false);
-    Salvar_Escala_Impressora();
-    printer.setPageSize(a4Width, a4Height);
-    printer.setScaleMode(ScaleMode::Characters);
-}
-
 void printHead(Printer &printer, const PrintedList &list, const QString &moment, int page)
 {
     if (page > list.lastPage)
@@ -127,7 +118,7 @@ void printList(const PrintedList &list)
     const LongWork work;
     Printer &printer = Printer::current();
     OnErrorGoToEnd([&] {
-        setUpPage(printer);
+        setUpSheet(printer, reportPoints, ScaleMode::Characters);
         printPages(printer, list);
     });
     printer.setDocumentName(list.documentName);

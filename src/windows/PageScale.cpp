@@ -17,3 +17,18 @@ void Restaurar_Escala_Impressora()
         Printer::current().setPageSize(globais.keptPageWidth, globais.keptPageHeight);
     });
 }
+
+void setUpPrinter(Printer &printer, double points, ScaleMode scale)
+{
+    printer.setFontName("Courier New");
+    printer.setFontSize(points);
+    printer.setFontBold(false);
+    printer.setScaleMode(scale);
+}
+
+void setUpSheet(Printer &printer, double points, ScaleMode scale)
+{
+    Salvar_Escala_Impressora();
+    setUpPrinter(printer, points, scale);
+    printer.setPageSize(a4Width, a4Height);
+}
