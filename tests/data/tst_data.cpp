@@ -95,12 +95,7 @@ private slots:
         CaminhoBD = cafe->folder() + "/anything.else";
         QCOMPARE(Categoria_Do_Produto("TESTE"), QString("BEBIDAS"));
         QCOMPARE(CaminhoBD, cafe->folder() + "/\\Morvelane.mdb");
-    }
-
-    void foldersEndWithoutASeparator()
-    {
-        QCOMPARE(Extrair_Pasta("/srv/cafe//\\Morvelane.mdb"), QString("/srv/cafe"));
-        QCOMPARE(Extrair_Pasta("Morvelane.mdb"), QDir::currentPath());
+        QCOMPARE(Extrair_Pasta(CaminhoBD), cafe->folder());
     }
 
     void theNewestCashPeriodDecides()

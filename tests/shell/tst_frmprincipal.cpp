@@ -72,6 +72,8 @@ private slots:
         shell.window->close();
         QCOMPARE(Forms::loaded().size(), 0);
         QVERIFY(!BancoPrincipal);
+        QCOMPARE(Texto_Erro_Registro(1015) + Texto_Erro_Registro(3),
+                 QString("The Registry Database is corrupt!Undefined Error Code:  3"));
     }
 
     void startsWithoutLanguage()
@@ -145,12 +147,6 @@ private slots:
         QTimer::singleShot(0, [&] { replaceText(shell.at("txtbasedados"), shell.cafe.dataFile()); });
         QVERIFY(shell.enters());
         QCOMPARE(shell.pointer(), shell.cafe.dataFile());
-    }
-
-    void codesOfTheRegistryHaveTexts()
-    {
-        QCOMPARE(Texto_Erro_Registro(1015), QString("The Registry Database is corrupt!"));
-        QCOMPARE(Texto_Erro_Registro(3), QString("Undefined Error Code:  3"));
     }
 };
 
