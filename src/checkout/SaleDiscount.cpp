@@ -1,6 +1,5 @@
 #include "checkout/SaleDiscount.h"
 
-#include "checkout/Amounts.h"
 #include "checkout/DiscountRules.h"
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
@@ -14,6 +13,7 @@
 #include "platform/window/Pictures.h"
 #include "platform/window/Prompts.h"
 #include "platform/window/TextBox.h"
+#include "windows/Amounts.h"
 #include "windows/NumberKeys.h"
 
 #include <QCheckBox>

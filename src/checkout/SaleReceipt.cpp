@@ -1,6 +1,5 @@
 #include "checkout/SaleReceipt.h"
 
-#include "checkout/Amounts.h"
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
@@ -10,6 +9,7 @@
 #include "platform/base/Machine.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
+#include "windows/Amounts.h"
 #include "windows/PageScale.h"
 
 namespace {

@@ -1,6 +1,5 @@
 #include "codes/CodeCreation.h"
 
-#include "checkout/Amounts.h"
 #include "codes/CodeState.h"
 #include "codes/CodeTexts.h"
 #include "configuration/Globais.h"
@@ -14,6 +13,7 @@
 #include "platform/window/Form.h"
 #include "platform/window/Prompts.h"
 #include "ui_frmcodigo_rapido.h"
+#include "windows/Amounts.h"
 
 #include <algorithm>
 

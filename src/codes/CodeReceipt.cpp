@@ -1,9 +1,9 @@
 #include "codes/CodeReceipt.h"
 
-#include "checkout/Amounts.h"
 #include "checkout/SaleDiscount.h"
 #include "checkout/SaleReceipt.h"
 #include "codes/CodeState.h"
+#include "windows/Amounts.h"
 
 namespace {
 SaleReceipt::Keys codeKeys()

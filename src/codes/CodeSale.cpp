@@ -1,6 +1,5 @@
 #include "codes/CodeSale.h"
 
-#include "checkout/Amounts.h"
 #include "checkout/SaleDiscount.h"
 #include "checkout/SaleSound.h"
 #include "codes/CodeCreation.h"
@@ -22,6 +21,7 @@
 #include "platform/window/Form.h"
 #include "platform/window/Prompts.h"
 #include "ui_frmcodigo_rapido.h"
+#include "windows/Amounts.h"
 
 CodeSale::CodeSale(Form &form, Ui::frmcodigo_rapido &window, CodeState &state, SaleDiscount &discount,
                    CodeCreation &creation)

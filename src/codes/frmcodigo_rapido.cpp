@@ -1,6 +1,5 @@
 #include "codes/frmcodigo_rapido.h"
 
-#include "checkout/Amounts.h"
 #include "checkout/ReceiptOptions.h"
 #include "checkout/SaleDiscount.h"
 #include "checkout/WriteThrough.h"
@@ -18,6 +17,7 @@
 #include "platform/text/Dates.h"
 #include "platform/window/BoxKeys.h"
 #include "ui_frmcodigo_rapido.h"
+#include "windows/Amounts.h"
 #include "windows/NumberKeys.h"
 
 frmcodigo_rapido::frmcodigo_rapido() : ui(std::make_unique<Ui::frmcodigo_rapido>())

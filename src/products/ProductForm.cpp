@@ -1,6 +1,5 @@
 #include "products/ProductForm.h"
 
-#include "checkout/Amounts.h"
 #include "data/Placeholders.h"
 #include "data/Queries.h"
 #include "data/Statements.h"
@@ -10,6 +9,7 @@
 #include "products/ProductRecord.h"
 #include "products/ProductTexts.h"
 #include "ui_frmcadastro_produtos.h"
+#include "windows/Amounts.h"
 #include "windows/NumberKeys.h"
 
 namespace {

@@ -1,6 +1,5 @@
 #include "sale/ProductReceipt.h"
 
-#include "checkout/Amounts.h"
 #include "checkout/SaleDiscount.h"
 #include "checkout/SaleReceipt.h"
 #include "configuration/Globais.h"
@@ -9,6 +8,7 @@
 #include "sale/SaleCart.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
+#include "windows/Amounts.h"
 
 namespace {
 constexpr int quantityColumn = 33;

@@ -1,6 +1,5 @@
 #include "sale/SaleCart.h"
 
-#include "checkout/Amounts.h"
 #include "checkout/SaleDiscount.h"
 #include "data/Queries.h"
 #include "platform/base/Err.h"
@@ -10,6 +9,7 @@
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
+#include "windows/Amounts.h"
 
 #include <QSignalBlocker>
 

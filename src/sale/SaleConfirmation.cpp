@@ -1,6 +1,5 @@
 #include "sale/SaleConfirmation.h"
 
-#include "checkout/Amounts.h"
 #include "checkout/DiscountRules.h"
 #include "checkout/SaleDiscount.h"
 #include "checkout/SaleSound.h"
@@ -25,6 +24,7 @@
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
+#include "windows/Amounts.h"
 
 #include <cmath>
 

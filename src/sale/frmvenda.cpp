@@ -1,6 +1,5 @@
 #include "sale/frmvenda.h"
 
-#include "checkout/Amounts.h"
 #include "checkout/ReceiptOptions.h"
 #include "checkout/SaleDiscount.h"
 #include "checkout/WriteThrough.h"
@@ -22,6 +21,7 @@
 #include "sale/SaleScans.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
+#include "windows/Amounts.h"
 #include "windows/NumberKeys.h"
 #include "windows/OpenForms.h"
 

@@ -36,8 +36,7 @@ private:
         QString path;
         QString file;
     };
-    /// A button, the window behind it, and how it words its refusals. A window that is still to come has no `show`,
-    /// and its button stays disabled.
+    /// A button, the window behind it, and how it words its refusals.
     struct Door
     {
         QPushButton *button;

@@ -1,4 +1,4 @@
-#include "checkout/Amounts.h"
+#include "windows/Amounts.h"
 
 #include "configuration/Globais.h"
 #include "platform/text/Numbers.h"
