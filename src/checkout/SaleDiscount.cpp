@@ -1,6 +1,7 @@
 #include "checkout/SaleDiscount.h"
 
 #include "checkout/DiscountRules.h"
+#include "checkout/SaleLock.h"
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Idiomas.h"
@@ -29,17 +30,15 @@ bool isAboveZero(const Recordset &rs, const QString &field)
 }
 } // namespace
 
-SaleDiscount::SaleDiscount(const Controls &controls, const Texts &texts, QObject *parent)
-    : QObject(parent), ui(controls), m_texts(texts)
+SaleDiscount::SaleDiscount(const Controls &controls, const Texts &texts, const SaleLock &lock)
+    : ui(controls), m_texts(texts), m_lock(lock)
 {
     ui.imgdesconto->setPixmap(bundledPicture("imgdesconto", motivePictureSize));
     connect(ui.chkdesconto, &QCheckBox::clicked, this, &SaleDiscount::chkdesconto_Click);
     connect(ui.txtvalor_desconto, &TextBox::Change, this, &SaleDiscount::recalculate);
     connect(ui.txtvalor_desconto, &TextBox::GotFocus, this, &SaleDiscount::recalculate);
-    connect(ui.txtvalor_desconto, &TextBox::KeyPress, this, [this](int &KeyAscii) {
-        if (!Bloqueio_Desconto)
-            KeyAscii = Filtrar_Numero(KeyAscii, ui.txtvalor_desconto->text(), false);
-    });
+    lock.connect(ui.txtvalor_desconto, &TextBox::KeyPress, this,
+                 [this](int &KeyAscii) { KeyAscii = Filtrar_Numero(KeyAscii, ui.txtvalor_desconto->text(), false); });
     connect(ui.txtmotivo, &ComboBox::Click, this, &SaleDiscount::txtmotivo_Click);
     connect(ui.imgdesconto, &Label::Click, this, &SaleDiscount::imgdesconto_Click);
 }
@@ -179,7 +178,7 @@ void SaleDiscount::beginAnew()
 
 void SaleDiscount::recalculate()
 {
-    if (Bloqueio_Desconto)
+    if (m_lock.Bloqueio_Desconto)
         return;
     const QString typed = ui.txtvalor_desconto->text();
     if (ui.txtmotivo->count() > 0) {

@@ -8,6 +8,7 @@ class ComboBox;
 class Label;
 class QCheckBox;
 class TextBox;
+struct SaleLock;
 
 /// The discount of one sale: the rule that applies by itself, the one picked by hand, the value typed, and the totals.
 ///
@@ -34,7 +35,7 @@ public:
         QString motiveTitle;
     };
 
-    SaleDiscount(const Controls &controls, const Texts &texts, QObject *parent);
+    SaleDiscount(const Controls &controls, const Texts &texts, const SaleLock &lock);
 
     // The members that both sale windows know by these names.
     double Total_Venda = 0;
@@ -43,8 +44,6 @@ public:
     QString Texto_Desconto;
     bool Desconto_Marcado = false;
     bool Motivo_Fixo = false;
-    /// True while the sale is being confirmed: the handlers of the window then return at once.
-    bool Bloqueio_Desconto = false;
 
     /// Fills the combo with the rules' numbers and selects the café's default motive.
     void Listar_Motivos_Descontos();
@@ -88,5 +87,6 @@ private:
 
     Controls ui;
     Texts m_texts;
+    const SaleLock &m_lock;
     int m_defaultMotive = 0;
 };

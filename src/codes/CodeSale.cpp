@@ -35,7 +35,6 @@ void CodeSale::refuse(const QString &key, QWidget *focus)
     codeTexts.notice(key);
     if (focus)
         focus->setFocus();
-    m_discount.Bloqueio_Desconto = false;
 }
 
 void CodeSale::cmdfinalizar_Click()

@@ -23,9 +23,11 @@
 frmcodigo_rapido::frmcodigo_rapido() : ui(std::make_unique<Ui::frmcodigo_rapido>())
 {
     ui->setupUi(this);
-    m_discount = new SaleDiscount(
-        {ui->chkdesconto, ui->txtvalor_desconto, ui->txtmotivo, ui->imgdesconto, ui->lbltotal_final},
-        {.section = "frmcodigo_rapido", .unknownMotive = "MsgBox16", .motiveTitle = "MsgBox16_2"}, this);
+    m_discount = std::make_unique<SaleDiscount>(
+        SaleDiscount::Controls{ui->chkdesconto, ui->txtvalor_desconto, ui->txtmotivo, ui->imgdesconto,
+                               ui->lbltotal_final},
+        SaleDiscount::Texts{.section = "frmcodigo_rapido", .unknownMotive = "MsgBox16", .motiveTitle = "MsgBox16_2"},
+        m_lock);
     m_creation = std::make_unique<CodeCreation>(*this, *ui, m_state);
     m_sale = std::make_unique<CodeSale>(*this, *ui, m_state, *m_discount, *m_creation);
 
@@ -72,7 +74,6 @@ void frmcodigo_rapido::Form_Load()
         return Ler_INI(caminhoConfig(), section, key);
     };
     Sempre_No_Topo(*this, true);
-    m_discount->Bloqueio_Desconto = false;
     ui->txtadi_cartao->setEchoMode(setting("Codigo_Acesso", "Ocultar") == "1" ? QLineEdit::Password
                                                                               : QLineEdit::Normal);
     m_discount->Listar_Motivos_Descontos();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "checkout/SaleLock.h"
 #include "codes/CodeState.h"
 #include "platform/window/Form.h"
 
@@ -37,9 +38,12 @@ private:
     void txtvalor_disponível_Change();
     void lbltotal_Change();
 
+    // The controls outlive what works on them, as members go in the opposite order.
     std::unique_ptr<Ui::frmcodigo_rapido> ui;
     CodeState m_state;
-    SaleDiscount *m_discount;
+    /// Never on in this window.
+    const SaleLock m_lock;
+    std::unique_ptr<SaleDiscount> m_discount;
     std::unique_ptr<CodeCreation> m_creation;
     std::unique_ptr<CodeSale> m_sale;
 };

@@ -5,7 +5,6 @@
 #include "configuration/Globais.h"
 #include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
-#include "sale/SaleCart.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
 #include "windows/Amounts.h"
@@ -40,7 +39,7 @@ void rule(SaleReceipt &receipt)
     receipt.device().write(portRule);
 }
 
-void Detalhar_Produtos(SaleReceipt &receipt, const SaleReceipt::Content &content, const FlexGrid &cart)
+void Detalhar_Produtos(SaleReceipt &receipt, const SaleReceipt::Content &content, const Cart &cart)
 {
     ReceiptDevice &device = receipt.device();
     device.place(0, receipt.linha(), receipt.text("DispositivoSaida1"));
@@ -48,20 +47,19 @@ void Detalhar_Produtos(SaleReceipt &receipt, const SaleReceipt::Content &content
     device.place(valueColumn, receipt.linha(), receipt.text("DispositivoSaida3"));
     device.write(receipt.text("DispositivoSaida4"));
     receipt.lineDone(content);
-    for (int row = 1; row < cart.Rows(); ++row) {
-        const QString description = cart.TextMatrix(row, CartColumn::Description);
-        const QString quantity = cart.TextMatrix(row, CartColumn::Quantity) + saleTexts.loaded("String8");
-        const QString value = SimboloMoeda + " " + cart.TextMatrix(row, CartColumn::Value);
-        device.place(0, receipt.linha(), description);
+    for (const CartLine &line : cart) {
+        const QString quantity = line.Quantidade + saleTexts.loaded("String8");
+        const QString value = SimboloMoeda + " " + line.Valor;
+        device.place(0, receipt.linha(), line.Descrição);
         device.place(quantityColumn, receipt.linha(), quantity);
         device.place(valueColumn, receipt.linha(), value);
-        device.write(description.leftJustified(portDescriptionWidth) + quantity.leftJustified(portQuantityWidth) + " " +
-                     value);
+        device.write(line.Descrição.leftJustified(portDescriptionWidth) + quantity.leftJustified(portQuantityWidth) +
+                     " " + value);
         receipt.lineDone(content);
     }
 }
 
-void printDetails(SaleReceipt &receipt, const SaleReceipt::Content &content, const FlexGrid &cart)
+void printDetails(SaleReceipt &receipt, const SaleReceipt::Content &content, const Cart &cart)
 {
     rule(receipt);
     receipt.linha() += 2;
@@ -72,7 +70,7 @@ void printDetails(SaleReceipt &receipt, const SaleReceipt::Content &content, con
 }
 } // namespace
 
-void printProductReceipt(const Ui::frmvenda &window, const SaleDiscount &discount)
+void printProductReceipt(const Ui::frmvenda &window, const Cart &cart, const SaleDiscount &discount)
 {
     SaleReceipt::Content content;
     content.withoutCustomer = !window.optcliente->isChecked();
@@ -83,6 +81,6 @@ void printProductReceipt(const Ui::frmvenda &window, const SaleDiscount &discoun
     content.motive = [&discount] { return discount.chosenMotive(); };
     OnErrorResumeNext([&] { content.paid = shownAmount(window.txtvalor_pago->text()); });
     content.change = window.lbltroco->Caption();
-    content.details = [&](SaleReceipt &receipt) { printDetails(receipt, content, *window.tab_consumo); };
+    content.details = [&](SaleReceipt &receipt) { printDetails(receipt, content, cart); };
     SaleReceipt(productKeys()).Gerar_Recibo(content);
 }

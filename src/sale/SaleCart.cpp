@@ -1,11 +1,12 @@
 #include "sale/SaleCart.h"
 
 #include "checkout/SaleDiscount.h"
+#include "checkout/SaleLock.h"
+#include "configuration/Globais.h"
 #include "data/Queries.h"
-#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
-#include "sale/SaleProducts.h"
+#include "sale/ProductSearch.h"
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
@@ -13,21 +14,33 @@
 
 #include <QSignalBlocker>
 
-SaleCart::SaleCart(Ui::frmvenda &window, SaleState &state, SaleDiscount &discount, SaleProducts &products,
-                   QObject *parent)
-    : QObject(parent), ui(window), m_state(state), m_discount(discount), m_products(products)
+#include <algorithm>
+
+namespace {
+/// Whether a product, if it is no service, is there in that quantity. A stock that is no number counts as too small,
+/// since the failure goes on inside the test.
+bool suffices(const Recordset &product, double quantidade)
+{
+    bool enough = false;
+    OnErrorResumeNext([&] { enough = product.Fields("Servico").boolean(); },
+                      [&] { enough = enough || product.Fields("Quantidade").number() - quantidade >= 0; });
+    return enough;
+}
+} // namespace
+
+SaleCart::SaleCart(Ui::frmvenda &window, SaleState &state, const SaleLock &lock, SaleDiscount &discount,
+                   ProductSearch &products)
+    : ui(window), m_grid(*window.tab_consumo), m_state(state), m_discount(discount), m_products(products)
 {
     const auto takeRow = [this] {
-        if (!m_discount.Bloqueio_Desconto && ui.tab_consumo->Row() > 0)
-            m_state.Linha_Consumo = ui.tab_consumo->Row();
+        if (m_grid.Row() > 0)
+            m_state.Linha_Consumo = m_grid.Row();
     };
-    connect(ui.tab_consumo, &FlexGrid::Click, this, takeRow);
-    connect(ui.tab_consumo, &FlexGrid::SelChange, this, takeRow);
-    connect(ui.cmdadicionar, &QPushButton::clicked, this, &SaleCart::cmdadicionar_Click);
-    connect(ui.cmdexcluir, &QPushButton::clicked, this, &SaleCart::cmdexcluir_Click);
-    connect(ui.txtquantidade, &TextBox::KeyPress, this, [this](int &KeyAscii) {
-        if (m_discount.Bloqueio_Desconto)
-            return;
+    lock.connect(&m_grid, &FlexGrid::Click, this, takeRow);
+    lock.connect(&m_grid, &FlexGrid::SelChange, this, takeRow);
+    lock.connect(ui.cmdadicionar, &QPushButton::clicked, this, [this] { cmdadicionar_Click(); });
+    lock.connect(ui.cmdexcluir, &QPushButton::clicked, this, [this] { cmdexcluir_Click(); });
+    lock.connect(ui.txtquantidade, &TextBox::KeyPress, this, [this](int &KeyAscii) {
         if (KeyAscii == vbKeyReturn)
             cmdadicionar_Click();
         else
@@ -35,10 +48,16 @@ SaleCart::SaleCart(Ui::frmvenda &window, SaleState &state, SaleDiscount &discoun
     });
 }
 
+void SaleCart::setUpGrid()
+{
+    m_grid.setCols(4);
+    m_grid.setRows(1);
+    m_grid.setFormatString("<    |<" + saleTexts.text("tab_consumo1") + "|<" + saleTexts.text("tab_consumo2") + "|<" +
+                           saleTexts.text("tab_consumo3") + SimboloMoeda + QString(15, ' '));
+}
+
 void SaleCart::cmdadicionar_Click()
 {
-    if (m_discount.Bloqueio_Desconto)
-        return;
     if (!m_products.Buscar_Produtos(ui.cmbprodutos->currentText())) {
         saleTexts.notice("MsgBox5");
         return;
@@ -54,102 +73,106 @@ void SaleCart::cmdadicionar_Click()
         ui.cmbprodutos->setFocus();
         return;
     }
-    Adicionar_Produto(productDescription(ui.cmbprodutos->currentText()), quantidade);
+    Adicionar_Produto(m_products.foundDescription(), quantidade);
     m_discount.txtmotivo_Click();
     ui.txtcod_barra->setFocus();
 }
 
-int SaleCart::rowOf(const QString &descricao) const
-{
-    const QString wanted = descricao.toUpper();
-    for (int row = 1; row < ui.tab_consumo->Rows(); ++row)
-        if (ui.tab_consumo->TextMatrix(row, CartColumn::Description).toUpper() == wanted)
-            return row;
-    return 0;
-}
-
 void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
 {
-    if (m_discount.Bloqueio_Desconto)
-        return;
-    FlexGrid &grid = *ui.tab_consumo;
-    int row = rowOf(descricao);
-    double before = 0;
-    if (row > 0)
-        OnErrorResumeNext([&] { before = Cdbl(grid.TextMatrix(row, CartColumn::Quantity)); });
-    quantidade += before;
+    Cart &cart = m_state.cart;
+    const QString description = descricao.toUpper();
+    const auto same = [&](const CartLine &each) { return each.Descrição == description; };
+    const auto index = std::find_if(cart.cbegin(), cart.cend(), same) - cart.cbegin();
+    CartLine line = cart.value(index, {.Descrição = description});
+    const double before = Cdbl(line.Quantidade);
+    const double whole = before + quantidade;
+    line.Quantidade = Cstr(whole);
 
-    readFirstRow("Select * from Produtos Where Descrição='" + descricao.toUpper() + "'", [&](const Recordset &rs) {
-        bool service = false;
-        OnErrorResumeNext([&] { service = rs.Fields("Servico").boolean(); });
-        // A stock that is no number counts as too small, since the failure goes on inside the test.
-        bool enough = false;
-        OnErrorResumeNext([&] { enough = rs.Fields("Quantidade").number() - quantidade >= 0; });
-        if (!service && !enough) {
-            QString stock;
-            OnErrorResumeNext([&] { stock = rs.Fields("Quantidade").text(); });
-            refuse(descricao, quantidade, stock);
-            return;
+    bool taken = false;
+    readFirstRow("Select * from Produtos Where Descrição='" + description + "'", [&](const Recordset &product) {
+        taken = suffices(product, whole);
+        // A price that is no number leaves the line's value and the total as they were.
+        double price = 0;
+        if (taken && OnErrorResumeNext([&] { price = product.Fields("Valor_Unitario").number(); })) {
+            // The line is worked out from the whole quantity, and the total grows by the rounded value of the added
+            // part: with three decimals in a price the two may differ by a cent, and that stays.
+            line.Valor = amountText(price * whole);
+            m_discount.Total_Venda += shownAmount(price * quantidade);
         }
-
-        if (row == 0) {
-            row = grid.Rows();
-            addRow();
-            grid.setTopRow(row);
-        }
-        grid.setTextMatrix(row, CartColumn::Description, descricao.toUpper());
-        grid.setTextMatrix(row, CartColumn::Quantity, Cstr(quantidade));
-        // A price that is no number leaves the line without a value and the total as it was.
-        OnErrorResumeNext(
-            [&] {
-                const double price = rs.Fields("Valor_Unitario").number();
-                grid.setTextMatrix(row, CartColumn::Value, amountText(price * quantidade));
-            },
-            // The total grows by the rounded value of the added part, the line is worked out from the whole quantity:
-            // with three decimals in a price the two may differ by a cent, and that stays.
-            [&] {
-                const double price = rs.Fields("Valor_Unitario").number();
-                m_discount.Total_Venda += shownAmount(price * (quantidade - before));
-            });
-        showTotal();
+        if (!taken)
+            refuse(line, product);
     });
+    if (!taken)
+        return;
+    if (index == cart.size()) {
+        cart += line;
+        addRow();
+    }
+    cart[index] = line;
+    showLine(static_cast<int>(index) + 1);
+    showTotal();
 }
 
 void SaleCart::addRow()
 {
-    FlexGrid &grid = *ui.tab_consumo;
     // After a sale no line is the one to remove until one is clicked, so the first line isn't highlighted either.
     const bool none = m_state.Linha_Consumo == 0;
-    const QSignalBlocker untold(none ? &grid : nullptr);
-    grid.setRows(grid.Rows() + 1);
+    const QSignalBlocker untold(none ? &m_grid : nullptr);
+    const int row = m_grid.Rows();
+    m_grid.setRows(row + 1);
     if (none)
-        grid.setRow(0);
+        m_grid.setRow(0);
+    m_grid.setTopRow(row);
 }
 
-void SaleCart::refuse(const QString &descricao, double quantidade, const QString &stock)
+void SaleCart::showLine(int row)
 {
-    saleTexts.noticeText(saleTexts.text("MsgBox1") + Cstr(quantidade) + saleTexts.text("MsgBox1_2") + "\n" +
-                         saleTexts.text("MsgBox1_3") + descricao.toUpper() + saleTexts.text("MsgBox1_4") + stock +
+    const CartLine &line = m_state.cart[row - 1];
+    m_grid.setTextMatrix(row, 1, line.Descrição);
+    m_grid.setTextMatrix(row, 2, line.Quantidade);
+    m_grid.setTextMatrix(row, 3, line.Valor);
+}
+
+void SaleCart::refuse(const CartLine &line, const Recordset &product)
+{
+    QString stock;
+    OnErrorResumeNext([&] { stock = product.Fields("Quantidade").text(); });
+    saleTexts.noticeText(saleTexts.text("MsgBox1") + line.Quantidade + saleTexts.text("MsgBox1_2") + "\n" +
+                         saleTexts.text("MsgBox1_3") + line.Descrição + saleTexts.text("MsgBox1_4") + stock +
                          saleTexts.text("MsgBox1_5"));
     ui.txtquantidade->setFocus();
 }
 
 void SaleCart::cmdexcluir_Click()
 {
-    if (m_discount.Bloqueio_Desconto)
-        return;
-    FlexGrid &grid = *ui.tab_consumo;
-    const int row = static_cast<int>(m_state.Linha_Consumo);
-    // With row 0, as a sale leaves it, the heading is no number: the cart is emptied and the total stays. So be it.
-    OnErrorResumeNext([&] { m_discount.Total_Venda -= Cdbl(grid.TextMatrix(row, CartColumn::Value)); },
-                      [&] {
-                          if (row >= 1 && grid.Rows() > 2)
-                              grid.RemoveItem(row);
-                          else
-                              grid.setRows(1);
-                      });
+    Cart &cart = m_state.cart;
+    const auto index = static_cast<qsizetype>(m_state.Linha_Consumo) - 1;
+    const bool there = index >= 0 && index < cart.size();
+    // Row 0, as a sale leaves it, is the heading, which is no number: the cart is emptied and the total stays. So be
+    // it.
+    if (there)
+        m_discount.Total_Venda -= readNumber(cart[index].Valor).value_or(0);
+    if (there && cart.size() > 1) {
+        cart.removeAt(index);
+        m_grid.RemoveItem(static_cast<int>(index) + 1);
+    } else {
+        removeLines();
+    }
     m_discount.txtmotivo_Click();
     showTotal();
+}
+
+void SaleCart::removeLines()
+{
+    m_state.cart.clear();
+    m_grid.setRows(1);
+}
+
+void SaleCart::startAnew()
+{
+    removeLines();
+    m_state.Linha_Consumo = 0;
 }
 
 void SaleCart::showTotal()

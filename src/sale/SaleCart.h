@@ -3,41 +3,47 @@
 #include <QObject>
 #include <QString>
 
+class FlexGrid;
+class ProductSearch;
+class Recordset;
 class SaleDiscount;
-class SaleProducts;
+struct CartLine;
+struct SaleLock;
 struct SaleState;
 namespace Ui {
 class frmvenda;
 }
 
-/// Columns of the cart grid; row 0 is the heading, so that a grid of one row is an empty cart.
-namespace CartColumn {
-constexpr int Description = 1;
-constexpr int Quantity = 2;
-constexpr int Value = 3;
-} // namespace CartColumn
-
-/// The cart: adding with the stock check and the merge of lines, removing, and the total.
+/// The cart in the window: adding with the stock check and the merge of lines, removing, the total, and the grid that
+/// shows the lines.
 class SaleCart : public QObject
 {
     Q_OBJECT
 
 public:
-    SaleCart(Ui::frmvenda &window, SaleState &state, SaleDiscount &discount, SaleProducts &products, QObject *parent);
+    SaleCart(Ui::frmvenda &window, SaleState &state, const SaleLock &lock, SaleDiscount &discount,
+             ProductSearch &products);
 
-    /// Puts the chosen product into the cart, with the quantity shown.
+    void setUpGrid();
+    /// Takes the product that was found and the quantity shown to `Adicionar_Produto`.
     void cmdadicionar_Click();
+    /// Asks for the product, holds its stock against the whole quantity, and takes it to the cart, the grid and the
+    /// total.
     void Adicionar_Produto(const QString &descricao, double quantidade);
+    /// Leaves the cart as it is after a sale: without lines, and without one to remove.
+    void startAnew();
     void showTotal();
 
 private:
-    void cmdexcluir_Click();
-    int rowOf(const QString &descricao) const;
     void addRow();
-    void refuse(const QString &descricao, double quantidade, const QString &stock);
+    void showLine(int row);
+    void refuse(const CartLine &line, const Recordset &product);
+    void cmdexcluir_Click();
+    void removeLines();
 
     Ui::frmvenda &ui;
+    FlexGrid &m_grid;
     SaleState &m_state;
     SaleDiscount &m_discount;
-    SaleProducts &m_products;
+    ProductSearch &m_products;
 };

@@ -2,6 +2,7 @@
 
 #include "checkout/DiscountRules.h"
 #include "checkout/SaleDiscount.h"
+#include "checkout/SaleLock.h"
 #include "checkout/SaleSound.h"
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
@@ -19,33 +20,46 @@
 #include "platform/window/Prompts.h"
 #include "sale/ProductReceipt.h"
 #include "sale/ProductRules.h"
+#include "sale/ProductSearch.h"
 #include "sale/SaleCart.h"
-#include "sale/SaleProducts.h"
 #include "sale/SaleState.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
 #include "windows/Amounts.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 const QString attention = "Atenção";
+
+void lowerStock(const CartLine &line)
+{
+    OnErrorResumeNext([&] {
+        executeStatement(QString("UPDATE Produtos SET") + " Quantidade=(Cdbl(Quantidade)-CDbl('" + line.Quantidade +
+                         "'))" + " Where Descrição='" + line.Descrição + "' And Servico=False");
+    });
+}
+
+/// 255 for a stock product at or below its minimum.
+quint8 Estoque_Minimo(const QString &descricao)
+{
+    bool low = false;
+    readFirstRow("Select * from Produtos Where Descrição='" + descricao + "' And Servico=False",
+                 [&](const Recordset &rs) { low = isLow(rs); });
+    return low ? yesFlag : 0;
+}
 } // namespace
 
-SaleConfirmation::SaleConfirmation(Form &form, Ui::frmvenda &window, SaleState &state, SaleDiscount &discount,
-                                   SaleProducts &products, SaleCart &cart)
-    : m_form(form), ui(window), m_state(state), m_discount(discount), m_products(products), m_cart(cart)
+SaleConfirmation::SaleConfirmation(Form &form, Ui::frmvenda &window, SaleState &state, SaleLock &lock,
+                                   SaleDiscount &discount, ProductSearch &products, SaleCart &cart)
+    : m_form(form), ui(window), m_state(state), m_lock(lock), m_discount(discount), m_products(products), m_cart(cart)
 {
 }
 
-QString SaleConfirmation::cartText(int row, int column) const
+void SaleConfirmation::setLocked(bool locked)
 {
-    return ui.tab_consumo->TextMatrix(row, column);
-}
-
-void SaleConfirmation::lock(bool locked)
-{
-    m_discount.Bloqueio_Desconto = locked;
+    m_lock.Bloqueio_Desconto = locked;
     for (QGroupBox *card : {ui.frame_cliente, ui.frame_produto, ui.frame_cesta, ui.frame_desconto})
         setCardState(*card, locked ? CardState::Locked : CardState::Resting);
 }
@@ -56,18 +70,16 @@ void SaleConfirmation::refuse(const QString &key, QWidget *focus)
     saleTexts.notice(key);
     if (focus)
         focus->setFocus();
-    lock(false);
+    setLocked(false);
 }
 
 void SaleConfirmation::cmdfinalizar_Click()
 {
-    if (m_discount.Bloqueio_Desconto)
-        return;
     m_form.setMousePointer(vbHourglass);
     if (!prepare())
         return;
 
-    lock(true);
+    setLocked(true);
     const int answer = ask();
     // The rules are looked at after the question and before its answer, so a refusal comes even after a no.
     if (ui.chkdesconto->isChecked() && m_discount.ruleRefuses())
@@ -76,7 +88,7 @@ void SaleConfirmation::cmdfinalizar_Click()
         return refuse("MsgBox17", ui.cmbprodutos);
     if (answer == vbYes)
         store();
-    lock(false);
+    setLocked(false);
 }
 
 bool SaleConfirmation::prepare()
@@ -90,7 +102,7 @@ bool SaleConfirmation::prepare()
     if (ui.txtvalor_pago->text().isEmpty())
         ui.txtvalor_pago->setText("0");
     replaceBlanks(*ui.txtvalor_desconto);
-    if (ui.tab_consumo->Rows() < 2)
+    if (m_state.cart.isEmpty())
         return refused("MsgBox8", ui.cmbprodutos);
     if (m_state.Debito_Venda == 0 && !paysEnough())
         return refused("MsgBox9", ui.txtvalor_pago);
@@ -142,57 +154,56 @@ int SaleConfirmation::ask()
 
 bool SaleConfirmation::categoryRefuses() const
 {
-    bool ruled = false;
-    for (int row = 1; row < ui.tab_consumo->Rows() && !ruled; ++row)
-        TemDescontoAutomatico(Categoria_Do_Produto(cartText(row, CartColumn::Description).toUpper()), ruled);
-    return ruled && ui.tab_consumo->Rows() > 2;
+    const bool ruled = std::any_of(m_state.cart.cbegin(), m_state.cart.cend(), [](const CartLine &line) {
+        bool answer = false;
+        TemDescontoAutomatico(Categoria_Do_Produto(line.Descrição), answer);
+        return answer;
+    });
+    return ruled && m_state.cart.size() > 1;
 }
 
 void SaleConfirmation::store()
 {
-    m_lowStock.clear();
+    QString lowStock;
     double sum = 0;
-    for (int row = 1; row < ui.tab_consumo->Rows(); ++row) {
+    for (const CartLine &line : std::as_const(m_state.cart)) {
         m_state.Proximo_Codigo = keyBehind("Select Max(Codigo) From Venda_Produtos");
-        storeLine(row, shareOf(row, sum));
-        lowerStock(row);
-        const QString description = cartText(row, CartColumn::Description).toUpper();
-        if (Estoque_Minimo(description) == yesFlag)
-            m_lowStock += description;
+        storeLine(line, shareOf(line, sum));
+        lowerStock(line);
+        if (Estoque_Minimo(line.Descrição) == yesFlag)
+            lowStock += line.Descrição + "\n";
     }
     if (ui.optpago->isChecked()) {
         if (ui.chkrecibo->isChecked())
-            printProductReceipt(ui, m_discount);
+            printProductReceipt(ui, m_state.cart, m_discount);
         Tocar_Caixa();
     }
-    lock(false);
+    setLocked(false);
     m_form.setMousePointer(vbDefault);
     saleTexts.notice("MsgBox13");
-    if (!m_lowStock.isEmpty())
-        MsgBox(saleTexts.loaded("String9") + "\n\n" + m_lowStock.join('\n') + "\n", vbInformation, attention);
+    if (!lowStock.isEmpty())
+        MsgBox(saleTexts.loaded("String9") + "\n\n" + lowStock, vbInformation, attention);
     reset();
 }
 
-double SaleConfirmation::shareOf(int row, double &sum) const
+double SaleConfirmation::shareOf(const CartLine &line, double &sum) const
 {
     const double whole = m_discount.Valor_Desconto;
     double share = 0;
-    OnErrorResumeNext([&] {
-        const double value = shownAmount(cartText(row, CartColumn::Value));
-        share = Valor_Proporcional(whole, m_discount.Total_Venda, value);
-    });
+    // A line without a value has no share.
+    OnErrorResumeNext([&] { share = Valor_Proporcional(whole, m_discount.Total_Venda, Cdbl(line.Valor)); });
     sum += shownAmount(share);
     // The excess comes off the line at which it shows; the sum is not corrected, so a later line takes it off again.
     if (sum > whole)
         share = std::abs(shownAmount(share) - (sum - whole));
-    if (row == ui.tab_consumo->Rows() - 1 && sum < whole)
+    if (&line == &m_state.cart.constLast() && sum < whole)
         share = std::abs(shownAmount(share) + (whole - sum));
     return share;
 }
 
-void SaleConfirmation::storeLine(int row, double share)
+void SaleConfirmation::storeLine(const CartLine &line, double share)
 {
-    const QString category = Categoria_Do_Produto(cartText(row, CartColumn::Description).toUpper());
+    const QString category = Categoria_Do_Produto(line.Descrição);
     const QDateTime moment = Machine::current().now();
     const QString date = quoted(FormatDate(moment));
     const QString time = quoted(FormatTime(moment));
@@ -200,13 +211,13 @@ void SaleConfirmation::storeLine(int row, double share)
     const QStringList values{QString::number(m_state.Proximo_Codigo, 'g', 15),
                              date,
                              time,
-                             quoted(cartText(row, CartColumn::Description).toUpper()),
-                             quoted(cartText(row, CartColumn::Quantity)),
+                             quoted(line.Descrição),
+                             quoted(line.Quantidade),
                              quoted(m_state.Nome_Cliente),
                              quoted(m_state.Nick_Cliente),
                              QString::number(m_state.Avulsa_Venda),
                              QString::number(m_state.Debito_Venda),
-                             quoted(amountText(cartText(row, CartColumn::Value))),
+                             quoted(line.Valor),
                              quoted(amountText(share)),
                              quoted(m_state.Motivo_Venda),
                              date,
@@ -222,30 +233,12 @@ void SaleConfirmation::storeLine(int row, double share)
     });
 }
 
-void SaleConfirmation::lowerStock(int row)
-{
-    OnErrorResumeNext([&] {
-        executeStatement(QString("UPDATE Produtos SET") + " Quantidade=(Cdbl(Quantidade)-CDbl('" +
-                         cartText(row, CartColumn::Quantity) + "'))" + " Where Descrição='" +
-                         cartText(row, CartColumn::Description).toUpper() + "' And Servico=False");
-    });
-}
-
-quint8 SaleConfirmation::Estoque_Minimo(const QString &descricao) const
-{
-    bool low = false;
-    readFirstRow("Select * from Produtos Where Descrição='" + descricao + "' And Servico=False",
-                 [&](const Recordset &rs) { low = isLow(rs); });
-    return low ? yesFlag : 0;
-}
-
 void SaleConfirmation::reset()
 {
     m_discount.Total_Final = 0;
     m_discount.Total_Venda = 0;
     m_discount.Valor_Desconto = 0;
-    ui.tab_consumo->setRows(1);
-    m_state.Linha_Consumo = 0;
+    m_cart.startAnew();
     ui.txtquantidade->setText("1");
     ui.cmbprodutos->setCurrentIndex(-1);
     m_cart.showTotal();

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 class Form;
+class ProductSearch;
+class QWidget;
 class SaleCart;
 class SaleDiscount;
-class SaleProducts;
+struct CartLine;
+struct SaleLock;
 struct SaleState;
 namespace Ui {
 class frmvenda;
@@ -17,8 +19,8 @@ class frmvenda;
 class SaleConfirmation
 {
 public:
-    SaleConfirmation(Form &form, Ui::frmvenda &window, SaleState &state, SaleDiscount &discount, SaleProducts &products,
-                     SaleCart &cart);
+    SaleConfirmation(Form &form, Ui::frmvenda &window, SaleState &state, SaleLock &lock, SaleDiscount &discount,
+                     ProductSearch &products, SaleCart &cart);
 
     void cmdfinalizar_Click();
 
@@ -30,22 +32,18 @@ private:
     int ask();
     bool categoryRefuses() const;
     void store();
-    double shareOf(int row, double &sum) const;
-    void storeLine(int row, double share);
-    void lowerStock(int row);
-    /// 255 for a stock product at or below its minimum.
-    quint8 Estoque_Minimo(const QString &descricao) const;
+    double shareOf(const CartLine &line, double &sum) const;
+    void storeLine(const CartLine &line, double share);
     void reset();
-    void refuse(const QString &key, class QWidget *focus);
+    void refuse(const QString &key, QWidget *focus);
     /// While a sale is being confirmed, the window takes no entries.
-    void lock(bool locked);
-    QString cartText(int row, int column) const;
+    void setLocked(bool locked);
 
     Form &m_form;
     Ui::frmvenda &ui;
     SaleState &m_state;
+    SaleLock &m_lock;
     SaleDiscount &m_discount;
-    SaleProducts &m_products;
+    ProductSearch &m_products;
     SaleCart &m_cart;
-    QStringList m_lowStock;
 };

@@ -1,6 +1,6 @@
 #include "sale/SaleCustomers.h"
 
-#include "checkout/SaleDiscount.h"
+#include "checkout/SaleLock.h"
 #include "customers/CustomerColumns.h"
 #include "data/Acesso_BD.h"
 #include "data/Queries.h"
@@ -16,8 +16,8 @@
 
 #include <array>
 
-SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleDiscount &discount, QObject *parent)
-    : QObject(parent), ui(window), m_state(state), m_discount(discount), m_next(*window.cmdbusca)
+SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleLock &lock)
+    : ui(window), m_state(state), m_next(*window.cmdbusca)
 {
     ui.txtnome->installEventFilter(this);
 
@@ -25,26 +25,22 @@ SaleCustomers::SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleD
         DoEvents(WaitingInput::Stays);
         ui.txtnome->focusAtEnd();
     });
-    connect(ui.txtnome, &TextBox::KeyPress, this, [this](int &KeyAscii) {
-        if (m_discount.Bloqueio_Desconto)
-            return;
+    lock.connect(ui.txtnome, &TextBox::KeyPress, this, [this](int &KeyAscii) {
         if (KeyAscii == vbKeyReturn)
             cmdbusca_Click();
         else
             m_next.setGoesOn(false);
     });
-    connect(ui.cmdbusca, &QPushButton::clicked, this, [this] {
-        if (!m_discount.Bloqueio_Desconto)
-            cmdbusca_Click();
-    });
-    connect(ui.tab_clientes, &FlexGrid::Click, this, &SaleCustomers::tab_clientes_Click);
-    connect(ui.tab_clientes, &FlexGrid::SelChange, this, [this] {
+    lock.connect(ui.cmdbusca, &QPushButton::clicked, this, [this] { cmdbusca_Click(); });
+    lock.connect(ui.tab_clientes, &FlexGrid::Click, this, [this] { tab_clientes_Click(); });
+    lock.connect(ui.tab_clientes, &FlexGrid::SelChange, this, [this] {
         // While the window loads nobody is picked: its activation does that.
         if (ui.tab_clientes->isVisible())
             tab_clientes_SelChange();
     });
-    connect(ui.optavulsa, &QRadioButton::clicked, this, &SaleCustomers::optavulsa_Click);
-    connect(ui.optcliente, &QRadioButton::clicked, this, &SaleCustomers::optcliente_Click);
+    connect(ui.optavulsa, &QRadioButton::clicked, this, [this] { ui.imgfoto->showNobody(); });
+    lock.connect(ui.optavulsa, &QRadioButton::clicked, this, [this] { optavulsa_Click(); });
+    lock.connect(ui.optcliente, &QRadioButton::clicked, this, [this] { optcliente_Click(); });
 }
 
 void SaleCustomers::Listar_Clientes()
@@ -123,16 +119,22 @@ void SaleCustomers::takeSelectedCustomer()
 void SaleCustomers::tab_clientes_Click()
 {
     // The headings of an empty list are no customer.
-    if (!m_discount.Bloqueio_Desconto && ui.tab_clientes->Row() > 0)
+    if (ui.tab_clientes->Row() > 0)
         OnErrorResumeNext([this] { takeSelectedCustomer(); });
 }
 
 void SaleCustomers::tab_clientes_SelChange()
 {
-    if (m_discount.Bloqueio_Desconto || ui.tab_clientes->Row() == 0)
+    if (ui.tab_clientes->Row() == 0)
         return;
     OnErrorResumeNext([this] { takeSelectedCustomer(); });
     ExibirFoto(m_state.Nome_Cliente);
+}
+
+void SaleCustomers::takeCurrent()
+{
+    tab_clientes_Click();
+    tab_clientes_SelChange();
 }
 
 void SaleCustomers::ExibirFoto(const QString &nome)
@@ -145,9 +147,6 @@ void SaleCustomers::ExibirFoto(const QString &nome)
 
 void SaleCustomers::optavulsa_Click()
 {
-    ui.imgfoto->showNobody();
-    if (m_discount.Bloqueio_Desconto)
-        return;
     m_state.Avulsa_Venda = yesFlag;
     setGridEnabled(false);
     ui.optnão_pago->setEnabled(false);
@@ -158,8 +157,6 @@ void SaleCustomers::optavulsa_Click()
 
 void SaleCustomers::optcliente_Click()
 {
-    if (m_discount.Bloqueio_Desconto)
-        return;
     m_state.Avulsa_Venda = 0;
     setGridEnabled(true);
     ui.optpago->setEnabled(true);
@@ -175,8 +172,7 @@ void SaleCustomers::setGridEnabled(bool enabled)
 
 bool SaleCustomers::eventFilter(QObject *watched, QEvent *event)
 {
-    // The type first: the last events come when the window's controls are gone already.
-    if (event->type() == QEvent::KeyPress && watched == ui.txtnome) {
+    if (watched == ui.txtnome && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         const int row = ui.tab_clientes->Row() + (key == Qt::Key_Down ? 1 : -1);
         if (key == Qt::Key_Down || key == Qt::Key_Up) {

@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QString>
 
-class SaleDiscount;
+struct SaleLock;
 struct SaleState;
 namespace Ui {
 class frmvenda;
@@ -17,23 +17,25 @@ class SaleCustomers : public QObject
     Q_OBJECT
 
 public:
-    SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleDiscount &discount, QObject *parent);
+    SaleCustomers(Ui::frmvenda &window, SaleState &state, const SaleLock &lock);
 
     void Listar_Clientes();
     /// Selects the first customer from a row on whose name or nick begins with the term.
     bool Buscar_Cliente(const QString &termo, int inicio);
     void ExibirFoto(const QString &nome);
 
-    void tab_clientes_Click();
-    void tab_clientes_SelChange();
-    void optavulsa_Click();
-    void optcliente_Click();
+    /// Takes the customer on whom the list stands, with the photo.
+    void takeCurrent();
 
 protected:
     /// The arrow keys of the name box walk the list, as every pick in the list sends the keyboard back to the box.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void tab_clientes_Click();
+    void tab_clientes_SelChange();
+    void optavulsa_Click();
+    void optcliente_Click();
     void fill();
     void cmdbusca_Click();
     void takeSelectedCustomer();
@@ -41,7 +43,6 @@ private:
 
     Ui::frmvenda &ui;
     SaleState &m_state;
-    const SaleDiscount &m_discount;
     NextMatchButton m_next;
     QString Ultima_Busca;
 };

@@ -1,10 +1,9 @@
 #include "sale/SaleScans.h"
 
-#include "checkout/SaleDiscount.h"
-#include "platform/window/BarcodeScanner.h"
+#include "checkout/SaleLock.h"
 #include "platform/window/Form.h"
+#include "sale/ProductSearch.h"
 #include "sale/SaleCart.h"
-#include "sale/SaleProducts.h"
 
 #include <QApplication>
 
@@ -17,12 +16,16 @@ bool isBoxOpen()
 }
 } // namespace
 
-SaleScans::SaleScans(Form &window, const SaleDiscount &discount, SaleProducts &products, SaleCart &cart)
-    : QObject(&window), m_window(window), m_discount(discount), m_products(products), m_cart(cart)
-{
+SaleScans::SaleScans(Form &window, const SaleLock &lock, ProductSearch &products, SaleCart &cart)
+    : m_window(window)
+    , m_lock(lock)
+    , m_products(products)
+    , m_cart(cart)
+    ,
     // While a sale is being stored the window takes no entries, a scanner's neither.
-    auto *scanner = new BarcodeScanner(window, [this] { return isBoxOpen() || !m_discount.Bloqueio_Desconto; });
-    connect(scanner, &BarcodeScanner::Scanned, this, &SaleScans::take);
+    m_scanner(window, [this] { return isBoxOpen() || !m_lock.Bloqueio_Desconto; })
+{
+    connect(&m_scanner, &BarcodeScanner::Scanned, this, &SaleScans::take);
     connect(&m_later, &QTimer::timeout, this, &SaleScans::offerLeftCode);
 }
 
@@ -44,7 +47,7 @@ void SaleScans::take(const QString &code)
 void SaleScans::offerLeftCode()
 {
     // The routine that asked goes on behind its box, perhaps to another one.
-    if (isBoxOpen() || m_discount.Bloqueio_Desconto)
+    if (isBoxOpen() || m_lock.Bloqueio_Desconto)
         return;
     m_later.stop();
     m_products.offerCode(m_leftCode);

@@ -1,13 +1,16 @@
 #pragma once
 
+#include "sale/Cart.h"
+
 #include <QString>
 
 /// Flags of a sale as they go into the tables: 255 for yes, 0 for no.
 constexpr quint8 yesFlag = 255;
 
-/// What the sale window knows of the sale under way beside its cart and its discount.
+/// What the sale window knows of the sale under way beside its discount.
 struct SaleState
 {
+    Cart cart;
     QString Nome_Cliente;
     QString Nick_Cliente;
     /// 255 for a walk-in sale.

@@ -14,10 +14,10 @@
 #include "platform/window/Look.h"
 #include "products/frmcadastro_produtos.h"
 #include "sale/ProductRules.h"
+#include "sale/ProductSearch.h"
 #include "sale/SaleCart.h"
 #include "sale/SaleConfirmation.h"
 #include "sale/SaleCustomers.h"
-#include "sale/SaleProducts.h"
 #include "sale/SaleScans.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
@@ -29,56 +29,47 @@ frmvenda::frmvenda() : ui(std::make_unique<Ui::frmvenda>())
 {
     ui->setupUi(this);
 
-    m_discount =
-        new SaleDiscount({ui->chkdesconto, ui->txtvalor_desconto, ui->txtmotivo, ui->imgdesconto, ui->lbltotal_final},
-                         {.section = "frmvenda", .unknownMotive = "MsgBox15", .motiveTitle = "MsgBox15_2"}, this);
-    m_customers = new SaleCustomers(*ui, m_state, *m_discount, this);
-    m_products = new SaleProducts(*ui, *m_discount, this);
-    m_cart = new SaleCart(*ui, m_state, *m_discount, *m_products, this);
-    m_confirmation = std::make_unique<SaleConfirmation>(*this, *ui, m_state, *m_discount, *m_products, *m_cart);
-    new SaleScans(*this, *m_discount, *m_products, *m_cart);
+    m_discount = std::make_unique<SaleDiscount>(
+        SaleDiscount::Controls{ui->chkdesconto, ui->txtvalor_desconto, ui->txtmotivo, ui->imgdesconto,
+                               ui->lbltotal_final},
+        SaleDiscount::Texts{.section = "frmvenda", .unknownMotive = "MsgBox15", .motiveTitle = "MsgBox15_2"}, m_lock);
+    m_customers = std::make_unique<SaleCustomers>(*ui, m_state, m_lock);
+    m_products = std::make_unique<ProductSearch>(*ui, m_lock);
+    m_cart = std::make_unique<SaleCart>(*ui, m_state, m_lock, *m_discount, *m_products);
+    m_confirmation = std::make_unique<SaleConfirmation>(*this, *ui, m_state, m_lock, *m_discount, *m_products, *m_cart);
+    m_scans = std::make_unique<SaleScans>(*this, m_lock, *m_products, *m_cart);
 
-    connect(ui->lbltotal, &Label::Change, this, &frmvenda::lbltotal_Change);
+    m_lock.connect(ui->lbltotal, &Label::Change, this, [this] { lbltotal_Change(); });
     connect(ui->lbltotal_final, &Label::Change, this, &frmvenda::lbltotal_final_Change);
     connectPayment();
     writeThrough(ui->chkrecibo, "Recibo Produtos", "Imprimir");
     opensReceiptOptions(ui->lblconfigurar_recibo, ui->chkrecibo);
-    connect(ui->cmdfinalizar, &QPushButton::clicked, this, [this] { m_confirmation->cmdfinalizar_Click(); });
+    m_lock.connect(ui->cmdfinalizar, &QPushButton::clicked, this, [this] { m_confirmation->cmdfinalizar_Click(); });
     connect(ui->cmdcadastro_clientes, &QPushButton::clicked, this,
             [this] { visit<frmcadastro_clientes>(&frmvenda::Listar_Clientes); });
     connect(ui->cmdcadastro_produtos, &QPushButton::clicked, this,
             [this] { visit<frmcadastro_produtos>(&frmvenda::Listar_Produtos); });
-    connect(ui->cmdcancelar, &QPushButton::clicked, this, [this] {
-        if (!m_discount->Bloqueio_Desconto)
-            Unload();
-    });
+    m_lock.connect(ui->cmdcancelar, &QPushButton::clicked, this, [this] { Unload(); });
 }
 
 frmvenda::~frmvenda() = default;
 
 void frmvenda::connectPayment()
 {
-    connect(ui->txtvalor_pago, &TextBox::Change, this, &frmvenda::txtvalor_pago_Change);
-    connect(ui->txtvalor_pago, &TextBox::GotFocus, this, [this] {
-        showChange();
-        selectFilledAmount();
+    connect(ui->txtvalor_pago, &TextBox::Change, this, [this] {
+        DoEvents(WaitingInput::Stays);
+        ui->txtvalor_pago->focusAtEnd();
     });
-    connect(ui->txtvalor_pago, &TextBox::KeyPress, this, [this](int &KeyAscii) {
-        if (m_discount->Bloqueio_Desconto)
-            return;
+    m_lock.connect(ui->txtvalor_pago, &TextBox::Change, this, [this] { showChange(); });
+    m_lock.connect(ui->txtvalor_pago, &TextBox::GotFocus, this, [this] { showChange(); });
+    connect(ui->txtvalor_pago, &TextBox::GotFocus, this, &frmvenda::selectFilledAmount);
+    m_lock.connect(ui->txtvalor_pago, &TextBox::KeyPress, this, [this](int &KeyAscii) {
         if (KeyAscii == vbKeyReturn)
             m_confirmation->cmdfinalizar_Click();
         else
             KeyAscii = Filtrar_Numero(KeyAscii, ui->txtvalor_pago->text(), false);
     });
-    connect(ui->optpago, &QRadioButton::clicked, this, [this] {
-        m_state.Debito_Venda = 0;
-        ui->txtvalor_pago->setEnabled(true);
-        ui->txtvalor_pago->setFocus();
-        m_filledAmount = Cstr(m_discount->Total_Final);
-        ui->txtvalor_pago->setText(m_filledAmount);
-        selectFilledAmount();
-    });
+    connect(ui->optpago, &QRadioButton::clicked, this, &frmvenda::optpago_Click);
     connect(ui->optnão_pago, &QRadioButton::clicked, this, [this] {
         m_state.Debito_Venda = yesFlag;
         ui->txtvalor_pago->setEnabled(false);
@@ -100,11 +91,7 @@ void frmvenda::Form_Load()
     Listar_Produtos();
     for (TextBox *box : {ui->txtvalor_pago, ui->txtvalor_desconto})
         replaceBlanks(*box);
-    ui->tab_consumo->setCols(4);
-    ui->tab_consumo->setRows(1);
-    ui->tab_consumo->setFormatString("<    |<" + saleTexts.text("tab_consumo1") + "|<" +
-                                     saleTexts.text("tab_consumo2") + "|<" + saleTexts.text("tab_consumo3") +
-                                     SimboloMoeda + QString(15, ' '));
+    m_cart->setUpGrid();
     m_state = {};
     ui->lbltotal->setCaption(withSymbol(0));
     ui->lbltotal_final->setCaption(withSymbol(0));
@@ -114,8 +101,8 @@ void frmvenda::Form_Load()
 
 void frmvenda::Form_Activate()
 {
-    m_customers->tab_clientes_Click();
-    m_customers->tab_clientes_SelChange();
+    if (!m_lock.Bloqueio_Desconto)
+        m_customers->takeCurrent();
 }
 
 void frmvenda::Form_Unload()
@@ -136,26 +123,22 @@ void frmvenda::Listar_Produtos()
 
 void frmvenda::Adicionar_Produto(const QString &descricao, double quantidade)
 {
-    m_cart->Adicionar_Produto(descricao, quantidade);
+    if (!m_lock.Bloqueio_Desconto)
+        m_cart->Adicionar_Produto(descricao, quantidade);
 }
 
 void frmvenda::Clicar_Alvuso()
 {
-    if (m_discount->Bloqueio_Desconto)
-        return;
-    ui->optavulsa->setChecked(true);
-    m_customers->optavulsa_Click();
+    if (!m_lock.Bloqueio_Desconto)
+        ui->optavulsa->click();
 }
 
 void frmvenda::lbltotal_Change()
 {
-    if (m_discount->Bloqueio_Desconto)
-        return;
     m_discount->recalculate();
     lbltotal_final_Change();
-    const bool oneLine = ui->tab_consumo->Rows() == 2;
-    const QString category =
-        oneLine ? Categoria_Do_Produto(ui->tab_consumo->TextMatrix(1, CartColumn::Description).toUpper()) : QString();
+    const Cart &cart = m_state.cart;
+    const QString category = cart.size() == 1 ? Categoria_Do_Produto(cart.first().Descrição) : QString();
     const QString group = ui->optcliente->isChecked() ? Grupo_Do_Cliente(m_state.Nome_Cliente) : QString();
     m_discount->TratarDescontosAutomaticos(amountText(m_discount->Total_Venda), productRuleConditions(group, category));
 }
@@ -166,11 +149,14 @@ void frmvenda::lbltotal_final_Change()
         ui->txtvalor_pago->setText(Cstr(m_discount->Total_Final));
 }
 
-void frmvenda::txtvalor_pago_Change()
+void frmvenda::optpago_Click()
 {
-    DoEvents(WaitingInput::Stays);
-    ui->txtvalor_pago->focusAtEnd();
-    showChange();
+    m_state.Debito_Venda = 0;
+    ui->txtvalor_pago->setEnabled(true);
+    ui->txtvalor_pago->setFocus();
+    m_filledAmount = Cstr(m_discount->Total_Final);
+    ui->txtvalor_pago->setText(m_filledAmount);
+    selectFilledAmount();
 }
 
 /// What is typed replaces the amount that the program proposed.
@@ -182,8 +168,6 @@ void frmvenda::selectFilledAmount()
 
 void frmvenda::showChange()
 {
-    if (m_discount->Bloqueio_Desconto)
-        return;
     const QString text = ui->txtvalor_pago->text();
     m_state.Texto_Pago = text.isEmpty() ? QString("0") : blanksAsZeros(text);
     double change = 0;

@@ -4,30 +4,29 @@
 #include <QString>
 
 class Recordset;
-class SaleDiscount;
+struct SaleLock;
 namespace Ui {
 class frmvenda;
 }
 
-/// Text of a product's entry in the combo: the description behind "(code) " where the product has an internal code.
-QString productEntry(const QString &code, const QString &description);
-/// The bare description of such a text.
-QString productDescription(const QString &entry);
-
 /// Whether a product's stock, in the current row, is at or below its minimum. Raises when a field is missing.
 bool isLow(const Recordset &product);
 
-/// Finding a product by its name, its internal code or its barcode.
-class SaleProducts : public QObject
+/// Finding a product by its name, its internal code or its barcode. An entry of the combo shows the code and carries
+/// the description beside its text. Prices and stocks aren't kept: they are asked for when a product is shown, and anew
+/// when it goes into the cart, as other terminals sell meanwhile.
+class ProductSearch : public QObject
 {
     Q_OBJECT
 
 public:
-    SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, QObject *parent);
+    ProductSearch(Ui::frmvenda &window, const SaleLock &lock);
 
     void Listar_Produtos();
     /// Selects the first entry that begins with a text, or whose internal code does; an empty text counts as found.
     bool Buscar_Produtos(const QString &texto);
+    /// Description of the entry that `Buscar_Produtos` selected.
+    QString foundDescription() const;
     void Info_Produto(const QString &descricao);
     /// Text of the entry of the product with a barcode; empty when there is none.
     QString Retornar_Descrição(const QString &cod_barra);
@@ -48,5 +47,5 @@ private:
     void txtcod_barra_Enter();
 
     Ui::frmvenda &ui;
-    const SaleDiscount &m_discount;
+    const SaleLock &m_lock;
 };

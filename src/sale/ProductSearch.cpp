@@ -1,6 +1,6 @@
-#include "sale/SaleProducts.h"
+#include "sale/ProductSearch.h"
 
-#include "checkout/SaleDiscount.h"
+#include "checkout/SaleLock.h"
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
 #include "data/Placeholders.h"
@@ -13,27 +13,29 @@
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
 
-QString productEntry(const QString &code, const QString &description)
+namespace {
+QString codedEntry(const QString &code, const QString &description)
 {
     return "(" + code + ") " + description;
 }
 
-QString productDescription(const QString &entry)
+/// The description that an entry stands for. A code has at most three characters; a longer one stays before it, and a
+/// description that begins with brackets of its own loses them, so that neither is found in the file. That stays.
+QString describedBy(const QString &entry)
 {
-    // A code has at most three characters; a bracket further on belongs to the description.
     const qsizetype end = entry.indexOf(')');
     return entry.startsWith('(') && end >= 0 && end <= 4 ? entry.mid(end + 2) : entry;
 }
+} // namespace
 
 bool isLow(const Recordset &product)
 {
     return Val(product.Fields("Estoque_Min").utf8()) >= Val(product.Fields("Quantidade").utf8());
 }
 
-SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, QObject *parent)
-    : QObject(parent), ui(window), m_discount(discount)
+ProductSearch::ProductSearch(Ui::frmvenda &window, const SaleLock &lock) : ui(window), m_lock(lock)
 {
-    connect(ui.cmbprodutos, &ComboBox::Click, this, &SaleProducts::cmbprodutos_Click);
+    connect(ui.cmbprodutos, &ComboBox::Click, this, &ProductSearch::cmbprodutos_Click);
     const auto arrow = [this](int KeyCode) {
         if (KeyCode == vbKeyUp || KeyCode == vbKeyDown)
             cmbprodutos_Click();
@@ -51,8 +53,8 @@ SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, Q
         DoEvents(WaitingInput::Stays);
         ui.txtcod_barra->focusAtEnd();
     });
-    connect(ui.txtcod_barra, &TextBox::KeyPress, this, [this](int &KeyAscii) {
-        if (KeyAscii == vbKeyReturn && !m_discount.Bloqueio_Desconto)
+    lock.connect(ui.txtcod_barra, &TextBox::KeyPress, this, [this](int &KeyAscii) {
+        if (KeyAscii == vbKeyReturn)
             txtcod_barra_Enter();
     });
     // Entered again, the box gives its old code up to the next scan.
@@ -60,24 +62,23 @@ SaleProducts::SaleProducts(Ui::frmvenda &window, const SaleDiscount &discount, Q
     selectOnEntry(ui.txtquantidade);
 }
 
-void SaleProducts::Listar_Produtos()
+void ProductSearch::Listar_Produtos()
 {
     ui.cmbprodutos->clear();
-    QStringList entries;
     forEachRow("Select * from Produtos Where Codigo <> 1 Order By Descrição", [&](const Recordset &rs) {
         FieldValue code;
         OnErrorResumeNext([&] { code = rs.Fields("Cod"); },
                           [&] {
                               const QString description = rs.Fields("Descrição").text();
                               const bool coded = !code.isNull() && code.text() != Placeholder::NoProductCode;
-                              entries += coded ? productEntry(code.text(), description) : description;
+                              const QString entry = coded ? codedEntry(code.text(), description) : description;
+                              ui.cmbprodutos->addItem(entry, describedBy(entry));
                           });
     });
-    ui.cmbprodutos->addItems(entries);
     ui.cmbprodutos->setCurrentIndex(-1);
 }
 
-int SaleProducts::entryOf(const QString &texto) const
+int ProductSearch::entryOf(const QString &texto) const
 {
     const QString description = texto.toUpper();
     const QString code = "(" + description;
@@ -89,7 +90,7 @@ int SaleProducts::entryOf(const QString &texto) const
     return -1;
 }
 
-bool SaleProducts::Buscar_Produtos(const QString &texto)
+bool ProductSearch::Buscar_Produtos(const QString &texto)
 {
     if (texto.isEmpty())
         return true;
@@ -99,31 +100,35 @@ bool SaleProducts::Buscar_Produtos(const QString &texto)
     return index >= 0;
 }
 
-bool SaleProducts::waitsForQuantity() const
+QString ProductSearch::foundDescription() const
+{
+    return ui.cmbprodutos->currentData().toString();
+}
+
+bool ProductSearch::waitsForQuantity() const
 {
     const QString text = ui.cmbprodutos->currentText();
     return ui.txtquantidade->hasFocus() && !text.isEmpty() && entryOf(text) >= 0;
 }
 
-void SaleProducts::cmbprodutos_Click()
+void ProductSearch::cmbprodutos_Click()
 {
-    if (m_discount.Bloqueio_Desconto)
+    if (m_lock.Bloqueio_Desconto)
         return;
     if (!Buscar_Produtos(ui.cmbprodutos->currentText())) {
         saleTexts.notice("MsgBox2");
         return;
     }
-    const QString text = ui.cmbprodutos->currentText();
-    if (text.isEmpty()) {
+    if (ui.cmbprodutos->currentText().isEmpty()) {
         setWarning(*ui.lblquant_estoque, false);
         ui.lblpreço_unitario->setCaption(saleTexts.loaded("String2"));
         ui.lblquant_estoque->setCaption(saleTexts.loaded("String3"));
         return;
     }
-    Info_Produto(productDescription(text).toUpper());
+    Info_Produto(foundDescription().toUpper());
 }
 
-void SaleProducts::Info_Produto(const QString &descricao)
+void ProductSearch::Info_Produto(const QString &descricao)
 {
     readFirstRow(
         "Select * from Produtos Where Descrição='" + descricao + "' Order By Descrição", [&](const Recordset &rs) {
@@ -145,18 +150,18 @@ void SaleProducts::Info_Produto(const QString &descricao)
         });
 }
 
-QString SaleProducts::Retornar_Descrição(const QString &cod_barra)
+QString ProductSearch::Retornar_Descrição(const QString &cod_barra)
 {
     QString entry;
     readFirstRow("Select Descrição,Cod From Produtos Where Cod_Barra='" + cod_barra + "'", [&](const Recordset &rs) {
         const QString code = rs.Fields("Cod").text();
         const QString description = rs.Fields("Descrição").text();
-        entry = code == Placeholder::NoProductCode || code.isEmpty() ? description : productEntry(code, description);
+        entry = code == Placeholder::NoProductCode || code.isEmpty() ? description : codedEntry(code, description);
     });
     return entry;
 }
 
-void SaleProducts::txtcod_barra_Enter()
+void ProductSearch::txtcod_barra_Enter()
 {
     const QString entry = Retornar_Descrição(ui.txtcod_barra->text());
     if (entry.isEmpty()) {
@@ -170,13 +175,13 @@ void SaleProducts::txtcod_barra_Enter()
     ui.txtquantidade->setFocus();
 }
 
-void SaleProducts::lookUp(const QString &cod_barra)
+void ProductSearch::lookUp(const QString &cod_barra)
 {
     ui.txtcod_barra->setText(cod_barra);
     txtcod_barra_Enter();
 }
 
-void SaleProducts::offerCode(const QString &cod_barra)
+void ProductSearch::offerCode(const QString &cod_barra)
 {
     ui.txtcod_barra->setText(cod_barra);
     ui.txtcod_barra->selectAll();
