@@ -28,16 +28,17 @@ public:
         return lines;
     }
 
-    void expectQuestion(const QString &amount, int answer = vbYes, const Place &where = Place::current())
+    void expectQuestion(const QString &amount, int answer = vbYes, const Attendant::Action &meanwhile = {},
+                        const Place &where = Place::current())
     {
         attendant.expect("Confirma a venda no valor de R$ " + amount + "?", vbYesNo + vbInformation, "Atenção", answer,
-                         {}, where);
+                         meanwhile, where);
     }
     /// Pays with Enter in the box, which brings the question and the success.
     void sell(const QString &paid, const QString &amount = "10,00, paga por\nANA LIMA",
               const Place &where = Place::current())
     {
-        expectQuestion(amount, vbYes, where);
+        expectQuestion(amount, vbYes, {}, where);
         expectNotice("MsgBox13", where);
         enter("txtvalor_pago", paid);
     }

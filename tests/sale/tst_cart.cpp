@@ -15,6 +15,7 @@ private slots:
     {
         SaleCounter counter;
         counter.add("Produtos", "Codigo=9, Descrição='XEROX', Valor_Unitario='0,335', Quantidade='', Servico=True");
+        counter.add("Produtos", "Codigo=10, Descrição='(2L) SUCO'");
         counter.open();
         for (const auto &[product, quantity, refusal] :
              {std::tuple("", "0", "MsgBox3"), {"12", "-x0", "MsgBox3"}, {"", "1", "MsgBox4"}}) {
@@ -24,6 +25,8 @@ private slots:
         counter.enter("txtcod_barra", "7891200000074");
         counter.enter("txtquantidade", "4");
         counter.put("xerox");
+        // Brackets of its own pass for a code, so that this one has never been sold.
+        counter.put("(2L) SUCO");
         counter.put("(12) ÁGUA", "6");
         counter.expectNoticeText("A quantidade pedida (11) é maior que o estoque.\nO produto ÁGUA tem 10 em estoque.");
         counter.put("12");

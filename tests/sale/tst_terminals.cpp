@@ -143,16 +143,15 @@ private slots:
         const auto sellWhileHeld = [&](int milliseconds) {
             counter.put("BALA");
             counter.type("txtvalor_pago", "10");
-            counter.attendant.expect("Confirma a venda no valor de R$ 10,00, paga por\nANA LIMA?",
-                                     vbYesNo + vbInformation, "Atenção", vbYes, [&] {
-                                         holder.emplace(counter.cafe.dataFile(), milliseconds);
-                                         auto *paints = new Paints(counter.at("cmdfinalizar"));
-                                         counter.at("cmdfinalizar").update();
-                                         QTimer::singleShot(0, paints, [&, paints] {
-                                             drawn = paints->count();
-                                             delete paints;
-                                         });
-                                     });
+            counter.expectQuestion("10,00, paga por\nANA LIMA", vbYes, [&] {
+                holder.emplace(counter.cafe.dataFile(), milliseconds);
+                auto *paints = new Paints(counter.at("cmdfinalizar"));
+                counter.at("cmdfinalizar").update();
+                QTimer::singleShot(0, paints, [&, paints] {
+                    drawn = paints->count();
+                    delete paints;
+                });
+            });
             counter.expectNotice("MsgBox13");
             QElapsedTimer freeze;
             freeze.start();
