@@ -26,9 +26,10 @@ public:
     void Vincular_Codigo(const QString &codigo, const QString &nome);
     void storeLink(const QString &codigo, const QString &nome);
 
-private:
+    /// Ends the hourglass, tells the text of that key, and hands the keyboard to what it speaks of.
     void say(const QString &key, class QWidget *focus = nullptr);
 
+private:
     Form &m_form;
     Ui::frmcodigo_rapido &ui;
     CodeState &m_state;

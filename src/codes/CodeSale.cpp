@@ -29,18 +29,10 @@ CodeSale::CodeSale(Form &form, Ui::frmcodigo_rapido &window, CodeState &state, S
 {
 }
 
-void CodeSale::refuse(const QString &key, QWidget *focus)
-{
-    m_form.setMousePointer(vbDefault);
-    codeTexts.notice(key);
-    if (focus)
-        focus->setFocus();
-}
-
 void CodeSale::cmdfinalizar_Click()
 {
     if (!Caixa_Aberto())
-        return refuse("MsgBox8");
+        return m_creation.say("MsgBox8");
     m_form.setMousePointer(vbHourglass);
     if (prepare()) {
         if (ui.opttempo_indeterminado->isChecked())
@@ -60,12 +52,12 @@ bool CodeSale::prepare()
     if (value->isEnabled() && !IsNumeric(value->text()))
         value->setText("0");
     if (ui.txturl->text().isEmpty()) {
-        refuse("MsgBox2", ui.txturl);
+        m_creation.say("MsgBox2", ui.txturl);
         return false;
     }
     // The customer got a code elsewhere while this window was open.
     if (Tem_Link(m_state.Nome_Cliente.toUpper())) {
-        refuse("MsgBox9");
+        m_creation.say("MsgBox9");
         m_form.Unload();
         return false;
     }
@@ -107,7 +99,7 @@ void CodeSale::sellCode()
 bool CodeSale::discountIsFair()
 {
     const auto refused = [this](const QString &key, QWidget *focus) {
-        refuse(key, focus);
+        m_creation.say(key, focus);
         return false;
     };
     if (shownAmount(m_discount.Total_Venda) - shownAmount(m_discount.Valor_Desconto) < 0)

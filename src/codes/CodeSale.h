@@ -2,8 +2,6 @@
 
 class CodeCreation;
 class Form;
-class QString;
-class QWidget;
 class SaleDiscount;
 struct CodeState;
 namespace Ui {
@@ -27,7 +25,6 @@ private:
     bool confirmsSale() const;
     void storeSale();
     void printLabel();
-    void refuse(const QString &key, QWidget *focus = nullptr);
 
     Form &m_form;
     Ui::frmcodigo_rapido &ui;

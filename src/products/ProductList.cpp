@@ -7,6 +7,7 @@
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
 #include "platform/window/Pictures.h"
+#include "products/LowStock.h"
 #include "products/ProductColumns.h"
 #include "products/ProductRecord.h"
 #include "products/ProductState.h"
@@ -59,7 +60,7 @@ ProductList::ProductList(Ui::frmcadastro_produtos &window, ProductState &state) 
     ui.tab_produtos->setAttention([this](int row, int column) {
         const QString minimum = ui.tab_produtos->TextMatrix(row, ProductColumn::MinimumStock);
         return column == ProductColumn::Stock && minimum != none &&
-               Val(minimum) >= Val(ui.tab_produtos->TextMatrix(row, column));
+               isLow(ui.tab_produtos->TextMatrix(row, column), minimum);
     });
 }
 

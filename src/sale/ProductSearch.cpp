@@ -6,10 +6,10 @@
 #include "data/Placeholders.h"
 #include "data/Queries.h"
 #include "platform/base/Err.h"
-#include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
 #include "platform/window/Forms.h"
 #include "platform/window/Look.h"
+#include "products/LowStock.h"
 #include "sale/SaleTexts.h"
 #include "ui_frmvenda.h"
 
@@ -27,11 +27,6 @@ QString describedBy(const QString &entry)
     return entry.startsWith('(') && end >= 0 && end <= 4 ? entry.mid(end + 2) : entry;
 }
 } // namespace
-
-bool isLow(const Recordset &product)
-{
-    return Val(product.Fields("Estoque_Min").utf8()) >= Val(product.Fields("Quantidade").utf8());
-}
 
 ProductSearch::ProductSearch(Ui::frmvenda &window, const SaleLock &lock) : ui(window), m_lock(lock)
 {

@@ -3,14 +3,10 @@
 #include <QObject>
 #include <QString>
 
-class Recordset;
 struct SaleLock;
 namespace Ui {
 class frmvenda;
 }
-
-/// Whether a product's stock, in the current row, is at or below its minimum. Raises when a field is missing.
-bool isLow(const Recordset &product);
 
 /// Finding a product by its name, its internal code or its barcode. An entry of the combo shows the code and carries
 /// the description beside its text. Prices and stocks aren't kept: they are asked for when a product is shown, and anew

@@ -18,6 +18,7 @@
 #include "platform/window/Form.h"
 #include "platform/window/Look.h"
 #include "platform/window/Prompts.h"
+#include "products/LowStock.h"
 #include "sale/ProductReceipt.h"
 #include "sale/ProductRules.h"
 #include "sale/ProductSearch.h"
