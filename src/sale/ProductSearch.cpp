@@ -62,13 +62,11 @@ void ProductSearch::Listar_Produtos()
     ui.cmbprodutos->clear();
     forEachRow("Select * from Produtos Where Codigo <> 1 Order By Descrição", [&](const Recordset &rs) {
         FieldValue code;
-        OnErrorResumeNext([&] { code = rs.Fields("Cod"); },
-                          [&] {
-                              const QString description = rs.Fields("Descrição").text();
-                              const bool coded = !code.isNull() && code.text() != Placeholder::NoProductCode;
-                              const QString entry = coded ? codedEntry(code.text(), description) : description;
-                              ui.cmbprodutos->addItem(entry, describedBy(entry));
-                          });
+        OnErrorResumeNext([&] { code = rs.Fields("Cod"); });
+        const QString description = rs.Fields("Descrição").text();
+        const bool coded = !code.isNull() && code.text() != Placeholder::NoProductCode;
+        const QString entry = coded ? codedEntry(code.text(), description) : description;
+        ui.cmbprodutos->addItem(entry, describedBy(entry));
     });
     ui.cmbprodutos->setCurrentIndex(-1);
 }

@@ -4,6 +4,7 @@
 #include "checkout/SaleLock.h"
 #include "configuration/Globais.h"
 #include "data/Queries.h"
+#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
 #include "sale/ProductSearch.h"
@@ -85,8 +86,7 @@ void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
     const auto same = [&](const CartLine &each) { return each.Descrição == description; };
     const auto index = std::find_if(cart.cbegin(), cart.cend(), same) - cart.cbegin();
     CartLine line = cart.value(index, {.Descrição = description});
-    const double before = Cdbl(line.Quantidade);
-    const double whole = before + quantidade;
+    const double whole = Cdbl(line.Quantidade) + quantidade;
     line.Quantidade = Cstr(whole);
 
     bool taken = false;
@@ -105,12 +105,14 @@ void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
     });
     if (!taken)
         return;
-    if (index == cart.size()) {
-        cart += line;
-        addRow();
-    }
+    const int row = static_cast<int>(index) + 1;
+    cart.resize(std::max(cart.size(), index + 1));
     cart[index] = line;
-    showLine(static_cast<int>(index) + 1);
+    if (row == m_grid.Rows())
+        addRow();
+    m_grid.setTextMatrix(row, 1, line.Descrição);
+    m_grid.setTextMatrix(row, 2, line.Quantidade);
+    m_grid.setTextMatrix(row, 3, line.Valor);
     showTotal();
 }
 
@@ -124,14 +126,6 @@ void SaleCart::addRow()
     if (none)
         m_grid.setRow(0);
     m_grid.setTopRow(row);
-}
-
-void SaleCart::showLine(int row)
-{
-    const CartLine &line = m_state.cart[row - 1];
-    m_grid.setTextMatrix(row, 1, line.Descrição);
-    m_grid.setTextMatrix(row, 2, line.Quantidade);
-    m_grid.setTextMatrix(row, 3, line.Valor);
 }
 
 void SaleCart::refuse(const CartLine &line, const Recordset &product)
@@ -167,12 +161,6 @@ void SaleCart::removeLines()
 {
     m_state.cart.clear();
     m_grid.setRows(1);
-}
-
-void SaleCart::startAnew()
-{
-    removeLines();
-    m_state.Linha_Consumo = 0;
 }
 
 void SaleCart::showTotal()

@@ -30,16 +30,13 @@ public:
     /// Asks for the product, holds its stock against the whole quantity, and takes it to the cart, the grid and the
     /// total.
     void Adicionar_Produto(const QString &descricao, double quantidade);
-    /// Leaves the cart as it is after a sale: without lines, and without one to remove.
-    void startAnew();
+    void removeLines();
     void showTotal();
 
 private:
     void addRow();
-    void showLine(int row);
     void refuse(const CartLine &line, const Recordset &product);
     void cmdexcluir_Click();
-    void removeLines();
 
     Ui::frmvenda &ui;
     FlexGrid &m_grid;

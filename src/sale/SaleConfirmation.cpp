@@ -206,31 +206,18 @@ void SaleConfirmation::storeLine(const CartLine &line, double share)
 {
     const QString category = Categoria_Do_Produto(line.Descrição);
     const QDateTime moment = Machine::current().now();
-    const QString date = quoted(FormatDate(moment));
-    const QString time = quoted(FormatTime(moment));
-    const QString period = QString::number(IdCaixa, 'g', 15);
-    const QStringList values{QString::number(m_state.Proximo_Codigo, 'g', 15),
-                             date,
-                             time,
-                             quoted(line.Descrição),
-                             quoted(line.Quantidade),
-                             quoted(m_state.Nome_Cliente),
-                             quoted(m_state.Nick_Cliente),
-                             QString::number(m_state.Avulsa_Venda),
-                             QString::number(m_state.Debito_Venda),
-                             quoted(line.Valor),
-                             quoted(amountText(share)),
-                             quoted(m_state.Motivo_Venda),
-                             date,
-                             time,
-                             period,
-                             period,
-                             quoted(category)};
+    const QString when = quoted(FormatDate(moment)) + "," + quoted(FormatTime(moment));
+    const QString period = Cstr(IdCaixa);
     OnErrorResumeNext([&] {
-        executeStatement("Insert into Venda_Produtos (Codigo,Data,Hora,Descrição,Quantidade,Nome,Nick,Avulsa,"
-                         "Debito,Valor_Total,Desconto,Motivo_Desconto,Data_Pag,Hora_Pag,Id_Caixa,Id_Caixa_Pago,"
-                         "Categoria) values (" +
-                         values.join(',') + ")");
+        executeStatement(
+            "Insert into Venda_Produtos (Codigo,Data,Hora,Descrição,Quantidade,Nome,Nick,Avulsa,Debito,Valor_Total,"
+            "Desconto,Motivo_Desconto,Data_Pag,Hora_Pag,Id_Caixa,Id_Caixa_Pago,Categoria) values (" +
+            QStringList{Cstr(m_state.Proximo_Codigo), when, quoted(line.Descrição), quoted(line.Quantidade),
+                        quoted(m_state.Nome_Cliente), quoted(m_state.Nick_Cliente), Cstr(m_state.Avulsa_Venda),
+                        Cstr(m_state.Debito_Venda), quoted(line.Valor), quoted(amountText(share)),
+                        quoted(m_state.Motivo_Venda), when, period, period, quoted(category)}
+                .join(',') +
+            ")");
     });
 }
 
@@ -239,7 +226,8 @@ void SaleConfirmation::reset()
     m_discount.Total_Final = 0;
     m_discount.Total_Venda = 0;
     m_discount.Valor_Desconto = 0;
-    m_cart.startAnew();
+    m_cart.removeLines();
+    m_state.Linha_Consumo = 0;
     ui.txtquantidade->setText("1");
     ui.cmbprodutos->setCurrentIndex(-1);
     m_cart.showTotal();

@@ -92,43 +92,35 @@ void SaleCustomers::cmdbusca_Click()
         return;
     }
     ui.txtnome->setText(ui.txtnome->text().toUpper());
-    if (m_next.goesOn()) {
-        if (!Buscar_Cliente(Ultima_Busca, ui.tab_clientes->Row() + 1))
-            saleTexts.notice("MsgBox6");
-        return;
-    }
-    Ultima_Busca = ui.txtnome->text();
-    if (Buscar_Cliente(Ultima_Busca, 1)) {
-        m_next.setGoesOn(true);
-    } else {
-        m_next.setGoesOn(false);
+    // Once a search has found someone, it goes on until another name is typed.
+    const bool goesOn = m_next.goesOn();
+    if (!goesOn)
+        Ultima_Busca = ui.txtnome->text();
+    const bool found = Buscar_Cliente(Ultima_Busca, goesOn ? ui.tab_clientes->Row() + 1 : 1);
+    if (!goesOn)
+        m_next.setGoesOn(found);
+    if (!found)
         saleTexts.notice("MsgBox6");
-    }
-}
-
-void SaleCustomers::takeSelectedCustomer()
-{
-    const FlexGrid &grid = *ui.tab_clientes;
-    m_state.Nome_Cliente = grid.TextMatrix(grid.Row(), CustomerColumn::Name);
-    m_state.Nick_Cliente = grid.TextMatrix(grid.Row(), CustomerColumn::Nick);
-    ui.txtnome->setText(m_state.Nome_Cliente);
-    if (!grid.RowIsVisible(grid.RowSel()))
-        ui.tab_clientes->setTopRow(grid.RowSel());
 }
 
 void SaleCustomers::tab_clientes_Click()
 {
+    FlexGrid &grid = *ui.tab_clientes;
     // The headings of an empty list are no customer.
-    if (ui.tab_clientes->Row() > 0)
-        OnErrorResumeNext([this] { takeSelectedCustomer(); });
+    if (grid.Row() == 0)
+        return;
+    m_state.Nome_Cliente = grid.TextMatrix(grid.Row(), CustomerColumn::Name);
+    m_state.Nick_Cliente = grid.TextMatrix(grid.Row(), CustomerColumn::Nick);
+    ui.txtnome->setText(m_state.Nome_Cliente);
+    if (!grid.RowIsVisible(grid.RowSel()))
+        grid.setTopRow(grid.RowSel());
 }
 
 void SaleCustomers::tab_clientes_SelChange()
 {
-    if (ui.tab_clientes->Row() == 0)
-        return;
-    OnErrorResumeNext([this] { takeSelectedCustomer(); });
-    ExibirFoto(m_state.Nome_Cliente);
+    tab_clientes_Click();
+    if (ui.tab_clientes->Row() > 0)
+        ExibirFoto(m_state.Nome_Cliente);
 }
 
 void SaleCustomers::takeCurrent()

@@ -38,7 +38,6 @@ private:
     void optcliente_Click();
     void fill();
     void cmdbusca_Click();
-    void takeSelectedCustomer();
     void setGridEnabled(bool enabled);
 
     Ui::frmvenda &ui;
