@@ -123,24 +123,21 @@ void ProductSearch::cmbprodutos_Click()
 
 void ProductSearch::Info_Produto(const QString &descricao)
 {
-    readFirstRow(
-        "Select * from Produtos Where Descrição='" + descricao + "' Order By Descrição", [&](const Recordset &rs) {
-            bool service = false;
-            bool low = false;
-            OnErrorResumeNext(
-                [&] {
-                    ui.lblpreço_unitario->setCaption(saleTexts.loaded("String2") + SimboloMoeda + " " +
-                                                     rs.Fields("Valor_Unitario").text());
-                },
-                [&] { service = rs.Fields("Servico").boolean(); },
-                [&] {
-                    ui.lblquant_estoque->setCaption(service
-                                                        ? saleTexts.loaded("String4")
-                                                        : saleTexts.loaded("String3") + rs.Fields("Quantidade").text());
-                },
-                [&] { low = !service && isLow(rs); });
-            setWarning(*ui.lblquant_estoque, low);
-        });
+    const QString price = saleTexts.loaded("String2") + SimboloMoeda + " ";
+    const QString sql = "Select * from Produtos Where Descrição='" + descricao + "' Order By Descrição";
+    readFirstRow(sql, [&](const Recordset &rs) {
+        bool service = false;
+        bool low = false;
+        OnErrorResumeNext([&] { ui.lblpreço_unitario->setCaption(price + rs.Fields("Valor_Unitario").text()); },
+                          [&] { service = rs.Fields("Servico").boolean(); },
+                          [&] {
+                              ui.lblquant_estoque->setCaption(service ? saleTexts.loaded("String4")
+                                                                      : saleTexts.loaded("String3") +
+                                                                            rs.Fields("Quantidade").text());
+                          },
+                          [&] { low = !service && isLow(rs); });
+        setWarning(*ui.lblquant_estoque, low);
+    });
 }
 
 QString ProductSearch::Retornar_Descrição(const QString &cod_barra)

@@ -9,8 +9,8 @@ class frmvenda;
 }
 
 /// Finding a product by its name, its internal code or its barcode. An entry of the combo shows the code and carries
-/// the description beside its text. Prices and stocks aren't kept: they are asked for when a product is shown, and anew
-/// when it goes into the cart, as other terminals sell meanwhile.
+/// the description. Nothing else is kept of a product, as other terminals sell and change it meanwhile: a barcode asks
+/// for its entry, `Info_Produto` for price and stock to show, and the cart for both once more.
 class ProductSearch : public QObject
 {
     Q_OBJECT
