@@ -17,13 +17,9 @@ bool isBoxOpen()
 } // namespace
 
 SaleScans::SaleScans(Form &window, const SaleLock &lock, ProductSearch &products, SaleCart &cart)
-    : m_window(window)
-    , m_lock(lock)
-    , m_products(products)
-    , m_cart(cart)
-    ,
-    // While a sale is being stored the window takes no entries, a scanner's neither.
-    m_scanner(window, [this] { return isBoxOpen() || !m_lock.Bloqueio_Desconto; })
+    : m_window(window), m_lock(lock), m_products(products), m_cart(cart), m_scanner(window, [this] {
+        return isBoxOpen() || !m_lock.Bloqueio_Desconto;
+    })
 {
     connect(&m_scanner, &BarcodeScanner::Scanned, this, &SaleScans::take);
     connect(&m_later, &QTimer::timeout, this, &SaleScans::offerLeftCode);

@@ -29,6 +29,7 @@ private:
     const SaleLock &m_lock;
     ProductSearch &m_products;
     SaleCart &m_cart;
+    /// While a sale is being stored the window takes no entries, a scanner's neither.
     BarcodeScanner m_scanner;
     /// Scanned while a message box was open.
     QString m_leftCode;
