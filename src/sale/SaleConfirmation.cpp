@@ -65,13 +65,14 @@ void SaleConfirmation::setLocked(bool locked)
         setCardState(*card, locked ? CardState::Locked : CardState::Resting);
 }
 
-void SaleConfirmation::refuse(const QString &key, QWidget *focus)
+bool SaleConfirmation::refuse(const QString &key, QWidget *focus)
 {
     m_form.setMousePointer(vbDefault);
     saleTexts.notice(key);
     if (focus)
         focus->setFocus();
     setLocked(false);
+    return false;
 }
 
 void SaleConfirmation::cmdfinalizar_Click()
@@ -84,35 +85,31 @@ void SaleConfirmation::cmdfinalizar_Click()
     const int answer = ask();
     // The rules are looked at after the question and before its answer, so a refusal comes even after a no.
     if (ui.chkdesconto->isChecked() && m_discount.ruleRefuses())
-        return refuse("MsgBox16", ui.txtmotivo);
-    if (categoryRefuses())
-        return refuse("MsgBox17", ui.cmbprodutos);
-    if (answer == vbYes)
+        refuse("MsgBox16", ui.txtmotivo);
+    else if (categoryRefuses())
+        refuse("MsgBox17", ui.cmbprodutos);
+    else if (answer == vbYes)
         store();
     setLocked(false);
 }
 
 bool SaleConfirmation::prepare()
 {
-    const auto refused = [this](const QString &key, QWidget *focus) {
-        refuse(key, focus);
-        return false;
-    };
     if (!Caixa_Aberto())
-        return refused("MsgBox7", nullptr);
+        return refuse("MsgBox7");
     if (ui.txtvalor_pago->text().isEmpty())
         ui.txtvalor_pago->setText("0");
     replaceBlanks(*ui.txtvalor_desconto);
     if (m_state.cart.isEmpty())
-        return refused("MsgBox8", ui.cmbprodutos);
+        return refuse("MsgBox8", ui.cmbprodutos);
     if (m_state.Debito_Venda == 0 && !paysEnough())
-        return refused("MsgBox9", ui.txtvalor_pago);
+        return refuse("MsgBox9", ui.txtvalor_pago);
     if (ui.chkdesconto->isChecked() && discountExceedsTotal())
-        return refused("MsgBox10", ui.txtvalor_desconto);
+        return refuse("MsgBox10", ui.txtvalor_desconto);
     if (!m_discount.takeMotive(m_state.Motivo_Venda))
-        return refused("MsgBox11", ui.txtmotivo);
+        return refuse("MsgBox11", ui.txtmotivo);
     if (!takeBuyer())
-        return refused("MsgBox12", ui.txtnome);
+        return refuse("MsgBox12", ui.txtnome);
     return true;
 }
 

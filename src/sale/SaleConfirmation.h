@@ -35,7 +35,8 @@ private:
     double shareOf(const CartLine &line, double &sum) const;
     void storeLine(const CartLine &line, double share);
     void reset();
-    void refuse(const QString &key, QWidget *focus);
+    /// Tells why, unlocks the window, and answers false.
+    bool refuse(const QString &key, QWidget *focus = nullptr);
     /// While a sale is being confirmed, the window takes no entries.
     void setLocked(bool locked);
 
