@@ -1,12 +1,11 @@
 #include "platform/print/PrintQueue.h"
 
 #include "platform/base/LongWork.h"
+#include "platform/print/CupsLibrary.h"
 #include "platform/print/PrinterError.h"
 #include "platform/print/RecordedPage.h"
 
 #include <QDeadlineTimer>
-
-#include <cups/cups.h>
 
 #include <span>
 
@@ -18,14 +17,15 @@ constexpr int connectMilliseconds = 3000;
 /// So long it isn't asked again: what prints often asks more than once.
 constexpr int silenceMilliseconds = 1000;
 
-template <auto free>
-struct FreedBy
+const CupsLibrary &cups()
 {
-    template <typename Thing>
-    void operator()(Thing *thing) const
-    {
-        free(thing);
-    }
+    return CupsLibrary::current();
+}
+
+struct Freed
+{
+    void operator()(http_t *connection) const { cups().httpClose(connection); }
+    void operator()(cups_dinfo_t *information) const { cups().cupsFreeDestInfo(information); }
 };
 
 /// The print system, and all queues that it has; none where the computer has no print system. The system's library by
@@ -35,20 +35,22 @@ class PrintServer
 public:
     PrintServer()
     {
+        if (!cups().isThere())
+            return;
         if (!silence.hasExpired())
             giveUp();
         // The library would ask for a password on a terminal, where nobody looks.
-        cupsSetPasswordCB2([](auto...) -> const char * { return nullptr; }, nullptr);
+        cups().cupsSetPasswordCB2([](auto...) -> const char * { return nullptr; }, nullptr);
         const QDeadlineTimer limit(connectMilliseconds);
-        m_http.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, connectMilliseconds,
-                                  nullptr));
+        m_http.reset(cups().httpConnect2(cups().cupsServer(), cups().ippPort(), nullptr, AF_UNSPEC,
+                                         cups().cupsEncryption(), 1, connectMilliseconds, nullptr));
         if (!m_http && limit.hasExpired())
             giveUp();
         if (!m_http)
             return;
-        httpSetTimeout(m_http.get(), stepSeconds, waitOn, this);
+        cups().httpSetTimeout(m_http.get(), stepSeconds, waitOn, this);
         // All of them, even for who wants one: for one that isn't there the library asks elsewhere, without a limit.
-        m_queues.count = cupsGetDests2(connection(), &m_queues.first);
+        m_queues.count = cups().cupsGetDests2(connection(), &m_queues.first);
         requireAnswers();
     }
     PrintServer(const PrintServer &) = delete;
@@ -79,7 +81,11 @@ private:
     struct List
     {
         List() = default;
-        ~List() { cupsFreeDests(count, first); }
+        ~List()
+        {
+            if (first)
+                cups().cupsFreeDests(count, first);
+        }
         Q_DISABLE_COPY_MOVE(List)
 
         cups_dest_t *first = nullptr;
@@ -87,7 +93,7 @@ private:
     };
 
     inline static QDeadlineTimer silence;
-    std::unique_ptr<http_t, FreedBy<httpClose>> m_http;
+    std::unique_ptr<http_t, Freed> m_http;
     List m_queues;
     int m_steps = 0;
 };
@@ -134,7 +140,7 @@ struct PrintQueue::Parts
 {
     PrintServer server;
     cups_dest_t *queue = nullptr;
-    std::unique_ptr<cups_dinfo_t, FreedBy<cupsFreeDestInfo>> information;
+    std::unique_ptr<cups_dinfo_t, Freed> information;
     cups_size_t sheet{};
 
     http_t *connection() const { return server.connection(); }
@@ -148,7 +154,7 @@ PrintQueue::PrintQueue(const QString &name) : m_parts(std::make_unique<Parts>())
     }
     http_t *connection = m_parts->connection();
     if (m_parts->queue)
-        m_parts->information.reset(cupsCopyDestInfo(connection, m_parts->queue));
+        m_parts->information.reset(cups().cupsCopyDestInfo(connection, m_parts->queue));
     m_parts->server.requireAnswers();
     if (!m_parts->information)
         raisePrinterError(name);
@@ -160,10 +166,11 @@ PrinterSheet PrintQueue::takeSheet(const QSizeF &twips)
 {
     http_t *connection = m_parts->connection();
     cups_size_t &sheet = m_parts->sheet;
-    if (!cupsGetDestMediaBySize(connection, m_parts->queue, m_parts->information.get(), hundredthsOf(twips.width()),
-                                hundredthsOf(twips.height()), CUPS_MEDIA_FLAGS_DEFAULT, &sheet) &&
-        !cupsGetDestMediaDefault(connection, m_parts->queue, m_parts->information.get(), CUPS_MEDIA_FLAGS_DEFAULT,
-                                 &sheet))
+    if (!cups().cupsGetDestMediaBySize(connection, m_parts->queue, m_parts->information.get(),
+                                       hundredthsOf(twips.width()), hundredthsOf(twips.height()),
+                                       CUPS_MEDIA_FLAGS_DEFAULT, &sheet) &&
+        !cups().cupsGetDestMediaDefault(connection, m_parts->queue, m_parts->information.get(),
+                                        CUPS_MEDIA_FLAGS_DEFAULT, &sheet))
         return {twips, {}};
     return {{twipsOf(sheet.width), twipsOf(sheet.length)},
             {twipsOf(sheet.left), twipsOf(sheet.top), twipsOf(sheet.right), twipsOf(sheet.bottom)}};
@@ -171,11 +178,11 @@ PrinterSheet PrintQueue::takeSheet(const QSizeF &twips)
 
 int PrintQueue::dotsPerInch() const
 {
-    ipp_attribute_t *resolution =
-        cupsFindDestDefault(m_parts->connection(), m_parts->queue, m_parts->information.get(), "printer-resolution");
+    ipp_attribute_t *resolution = cups().cupsFindDestDefault(m_parts->connection(), m_parts->queue,
+                                                             m_parts->information.get(), "printer-resolution");
     int down = 0;
     ipp_res_t units = IPP_RES_PER_INCH;
-    const int across = resolution ? ippGetResolution(resolution, 0, &down, &units) : 0;
+    const int across = resolution ? cups().ippGetResolution(resolution, 0, &down, &units) : 0;
     return units == IPP_RES_PER_INCH ? across : qRound(across * 2.54);
 }
 
@@ -188,20 +195,21 @@ void PrintQueue::print(const QByteArray &pdf, const QString &title)
     cups_option_t *options = nullptr;
     int count = 0;
     for (int option = 0; option < queue->num_options; ++option)
-        count = cupsAddOption(queue->options[option].name, queue->options[option].value, count, &options);
+        count = cups().cupsAddOption(queue->options[option].name, queue->options[option].value, count, &options);
     if (m_parts->sheet.media[0] != '\0')
-        count = cupsAddOption(CUPS_MEDIA, m_parts->sheet.media, count, &options);
+        count = cups().cupsAddOption(CUPS_MEDIA, m_parts->sheet.media, count, &options);
 
     int job = 0;
     const QByteArray name = title.toUtf8();
-    const bool taken =
-        cupsCreateDestJob(connection, queue, information, &job, name.constData(), count, options) == IPP_STATUS_OK &&
-        cupsStartDestDocument(connection, queue, information, job, name.constData(), CUPS_FORMAT_PDF, 0, nullptr, 1) ==
-            HTTP_STATUS_CONTINUE &&
-        cupsWriteRequestData(connection, pdf.constData(), static_cast<size_t>(pdf.size())) == HTTP_STATUS_CONTINUE &&
-        cupsFinishDestDocument(connection, queue, information) == IPP_STATUS_OK;
-    cupsFreeOptions(count, options);
+    const bool taken = cups().cupsCreateDestJob(connection, queue, information, &job, name.constData(), count,
+                                                options) == IPP_STATUS_OK &&
+                       cups().cupsStartDestDocument(connection, queue, information, job, name.constData(),
+                                                    CUPS_FORMAT_PDF, 0, nullptr, 1) == HTTP_STATUS_CONTINUE &&
+                       cups().cupsWriteRequestData(connection, pdf.constData(), static_cast<size_t>(pdf.size())) ==
+                           HTTP_STATUS_CONTINUE &&
+                       cups().cupsFinishDestDocument(connection, queue, information) == IPP_STATUS_OK;
+    cups().cupsFreeOptions(count, options);
     m_parts->server.requireAnswers();
     if (!taken)
-        raisePrinterError(QString::fromUtf8(cupsLastErrorString()));
+        raisePrinterError(QString::fromUtf8(cups().cupsLastErrorString()));
 }
