@@ -14,7 +14,7 @@ constexpr double receiptPoints = 10;
 template <typename Operation>
 void ReceiptDevice::attempt(Operation &&operation)
 {
-    if (!OnErrorResumeNext(operation))
+    if (!OnErrorGoToEnd(operation))
         m_failed = true;
 }
 
@@ -65,7 +65,7 @@ void ReceiptDevice::write(const QString &line)
 void ReceiptDevice::writeEmptyLines(int count)
 {
     if (m_toPort)
-        attempt([&] { Linhas_Em_Branco(count, m_port); });
+        Linhas_Em_Branco(count, m_port);
 }
 
 void ReceiptDevice::finish(const QString &documentName)

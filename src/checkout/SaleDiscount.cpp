@@ -80,11 +80,9 @@ void SaleDiscount::TratarDescontosAutomaticos(const QString &valor, const QStrin
 bool SaleDiscount::pickRule(const QString &sql)
 {
     QString code;
-    OnErrorResumeNext([&] {
-        OrRaise::forEachRow(sql, [&](const Recordset &rs) {
-            if (code.isEmpty() && (isAboveZero(rs, "Relativo") || isAboveZero(rs, "Absoluto")))
-                code = rs.Fields("Codigo").text();
-        });
+    forEachRow(sql, [&](const Recordset &rs) {
+        if (code.isEmpty() && (isAboveZero(rs, "Relativo") || isAboveZero(rs, "Absoluto")))
+            code = rs.Fields("Codigo").text();
     });
     if (code.isEmpty())
         return false;
@@ -110,7 +108,7 @@ void SaleDiscount::Validar_Motivo(quint8 codigo, QString &motivo) const
 QString SaleDiscount::chosenMotive() const
 {
     QString motive;
-    OnErrorResumeNext([&] { Validar_Motivo(motiveCode(), motive); });
+    OnErrorResumeNext<ErrorNumber::Overflow>([&] { Validar_Motivo(motiveCode(), motive); });
     return motive;
 }
 
@@ -130,11 +128,10 @@ bool SaleDiscount::takeMotive(QString &motivo)
 bool SaleDiscount::ruleRefuses() const
 {
     bool refuses = false;
-    OnErrorResumeNext([&] {
-        const quint8 code = motiveCode();
-        Desconto_Libera_Auto(code); // asked as ever, though nothing here depends on the answer
-        refuses = Desconto_Atendido(code, amountText(Total_Venda));
-    });
+    OnErrorResumeNext<ErrorNumber::Overflow>(
+        // Asked as ever, though nothing here depends on the answer.
+        [&] { Desconto_Libera_Auto(motiveCode()); },
+        [&] { refuses = Desconto_Atendido(motiveCode(), amountText(Total_Venda)); });
     return refuses;
 }
 
@@ -188,7 +185,7 @@ void SaleDiscount::recalculate()
     }
     if (ui.chkdesconto->isChecked() || !Motivo_Fixo) {
         Texto_Desconto = typed.isEmpty() || typed == "-" ? QString("0") : blanksAsZeros(typed);
-        OnErrorResumeNext([&] { Valor_Desconto = shownAmount(Texto_Desconto); });
+        OnErrorResumeNext<ErrorNumber::TypeMismatch>([&] { Valor_Desconto = shownAmount(Texto_Desconto); });
         if (Valor_Desconto > 0 && Desconto_Marcado)
             ui.chkdesconto->setChecked(true);
     }

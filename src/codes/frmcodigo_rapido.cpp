@@ -150,7 +150,8 @@ void frmcodigo_rapido::fitToContents()
 void frmcodigo_rapido::txtvalor_disponível_Change()
 {
     m_discount->Total_Venda = 0;
-    OnErrorResumeNext([this] { m_discount->Total_Venda = shownAmount(ui->txtvalor_disponível->text()); });
+    OnErrorResumeNext<ErrorNumber::TypeMismatch>(
+        [this] { m_discount->Total_Venda = shownAmount(ui->txtvalor_disponível->text()); });
     ui->lbltotal->setCaption(withSymbol(m_discount->Total_Venda));
     m_discount->txtmotivo_Click();
 }

@@ -8,7 +8,7 @@
 
 bool Existe_Arquivo(const QString &path)
 {
-    const bool exists = OnErrorResumeNext([&] { GetAttr(path); });
+    const bool exists = OnErrorGoToEnd<ErrorNumber::FileNotFound>([&] { GetAttr(path); });
     Err::Clear();
     return exists;
 }

@@ -28,10 +28,8 @@ void CustomerPhoto::forget()
     FotoWebcam = 0;
     CaminhoFoto = Placeholder::NoPhoto;
     ui.imgfoto->showNobody();
-    OnErrorResumeNext([] {
-        if (Existe_Arquivo(caminhoFototemp()))
-            Kill(caminhoFototemp());
-    });
+    if (Existe_Arquivo(caminhoFototemp()))
+        OnErrorResumeNext([] { Kill(caminhoFototemp()); });
 }
 
 void CustomerPhoto::showStored(const Recordset &customer)
@@ -66,7 +64,7 @@ void CustomerPhoto::cmdwebcam_Click()
 
 void CustomerPhoto::showWebcamPicture(const QString &file)
 {
-    OnErrorResumeNext([&] { ui.imgfoto->showFile(file); });
+    OnErrorResumeNext<ErrorNumber::InvalidPicture>([&] { ui.imgfoto->showFile(file); });
 }
 
 void CustomerPhoto::cmdadd_Click()
@@ -81,6 +79,6 @@ void CustomerPhoto::cmdadd_Click()
     if (caixa_dialogo.FileName.isEmpty() || !Existe_Arquivo(caixa_dialogo.FileName))
         return;
     CaminhoFoto = caixa_dialogo.FileName;
-    if (!OnErrorResumeNext([&] { ui.imgfoto->showFile(caixa_dialogo.FileName); }))
+    if (!OnErrorGoToEnd<ErrorNumber::InvalidPicture>([&] { ui.imgfoto->showFile(caixa_dialogo.FileName); }))
         customerTexts.notice("MsgBox26");
 }

@@ -19,7 +19,9 @@ bool selectCustomer(FlexGrid &list, const QString &term, int row, int column, co
         return false;
     DoEvents();
     // The list may have changed while the events ran.
-    OnErrorResumeNext([&] { list.goToRow(found, column); }, [] { DoEvents(); }, picked);
+    OnErrorResumeNext<ErrorNumber::SubscriptOutOfRange>([&] { list.goToRow(found, column); });
+    DoEvents();
+    picked();
     return true;
 }
 

@@ -30,7 +30,7 @@ void PhotoBox::showStored(const QString &path)
     if (path.isEmpty() || path == Placeholder::NoPhoto || !Existe_Arquivo(path))
         showNobody();
     else
-        OnErrorResumeNext([&] { showFile(path); });
+        OnErrorResumeNext<ErrorNumber::InvalidPicture>([&] { showFile(path); });
 }
 
 void PhotoBox::paintEvent(QPaintEvent *event)

@@ -14,7 +14,7 @@ void forEachRow(const QString &sql, Read read)
     Abrir_Banco_Principal();
     Abrir_Recordset(rs, BancoPrincipal, sql);
     for (; rs && !rs->Eof(); rs->MoveNext())
-        OnErrorResumeNext([&] { read(std::as_const(*rs)); });
+        OnErrorGoToEnd([&] { read(std::as_const(*rs)); });
     Fechar_Recordset(rs);
 }
 
@@ -27,7 +27,7 @@ bool readFirstRow(const QString &sql, Read read)
     Abrir_Recordset(rs, BancoPrincipal, sql);
     const bool found = rs && !rs->Eof();
     if (found)
-        OnErrorResumeNext([&] { read(std::as_const(*rs)); });
+        OnErrorGoToEnd([&] { read(std::as_const(*rs)); });
     Fechar_Recordset(rs);
     return found;
 }

@@ -122,7 +122,7 @@ void printList(const PrintedList &list)
         printPages(printer, list);
     });
     printer.setDocumentName(list.documentName);
-    OnErrorResumeNext([&] { printer.EndDoc(); });
+    OnErrorResumeNext<ErrorNumber::PrinterError>([&] { printer.EndDoc(); });
     Restaurar_Escala_Impressora();
 }
 

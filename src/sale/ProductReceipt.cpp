@@ -79,7 +79,7 @@ void printProductReceipt(const Ui::frmvenda &window, const Cart &cart, const Sal
     content.total = window.lbltotal->Caption().toUpper();
     content.discount = discount.Texto_Desconto;
     content.motive = [&discount] { return discount.chosenMotive(); };
-    OnErrorResumeNext([&] { content.paid = shownAmount(window.txtvalor_pago->text()); });
+    OnErrorResumeNext<ErrorNumber::TypeMismatch>([&] { content.paid = shownAmount(window.txtvalor_pago->text()); });
     content.change = window.lbltroco->Caption();
     content.details = [&](SaleReceipt &receipt) { printDetails(receipt, content, cart); };
     SaleReceipt(productKeys()).Gerar_Recibo(content);

@@ -94,7 +94,7 @@ void SaleCart::Adicionar_Produto(const QString &descricao, double quantidade)
         taken = suffices(product, whole);
         // A price that is no number leaves the line's value and the total as they were.
         double price = 0;
-        if (taken && OnErrorResumeNext([&] { price = product.Fields("Valor_Unitario").number(); })) {
+        if (taken && OnErrorGoToEnd([&] { price = product.Fields("Valor_Unitario").number(); })) {
             // The line is worked out from the whole quantity, and the total grows by the rounded value of the added
             // part: with three decimals in a price the two may differ by a cent, and that stays.
             line.Valor = amountText(price * whole);

@@ -3,7 +3,6 @@
 #include <QString>
 
 #include <stdexcept>
-#include <utility>
 
 /// A failure that the platform reports and that a routine may skip or trap.
 ///
@@ -45,34 +44,49 @@ constexpr int CannotOpenFile = 3044;
 constexpr int UnrecognisedFormat = 3343;
 } // namespace ErrorNumber
 
-/// The program's view of the last failure that was skipped or trapped; 0 when there is none.
+/// The program's view of the last failure that left a trapped body; 0 when there is none.
 namespace Err {
 int Number();
 void Clear();
 void set(const RunTimeError &error);
+
+/// Whether a guard that names the failures it expects means this one; one that names none means any.
+template <int... Expected>
+bool isExpected(const RunTimeError &error)
+{
+    return sizeof...(Expected) == 0 || ((error.Number() == Expected) || ...);
+}
 } // namespace Err
 
-/// Errors ignored: each statement that fails is skipped, and the next one runs. True when none failed.
-template <typename... Statements>
-bool OnErrorResumeNext(Statements &&...statements)
+/// Errors ignored: each step is one statement; one that fails is skipped, and the next one runs.
+///
+/// `OnErrorResumeNext<ErrorNumber::InvalidPicture>(...)` says which failure alone can come; any other passes through.
+template <int... Expected, typename... Steps>
+void OnErrorResumeNext(Steps &&...steps)
 {
-    const auto attempt = [](auto &&statement) {
+    const auto attempt = [](auto &step) {
         try {
-            statement();
-            return true;
+            step();
         } catch (const RunTimeError &error) {
-            Err::set(error);
-            return false;
+            if (!Err::isExpected<Expected...>(error))
+                throw;
         }
     };
-    bool all = true;
-    ((all = attempt(std::forward<Statements>(statements)) && all), ...);
-    return all;
+    (attempt(steps), ...);
 }
 
-/// Trapped: the first failure leaves the body for what stands behind the call. True when the body ran to its end.
-template <typename Body>
+/// Trapped: the first failure leaves the body for what stands behind the call. True when the body ran to its end, so
+/// that a failure can be an answer. The expected failures can be named as above.
+template <int... Expected, typename Body>
 bool OnErrorGoToEnd(Body &&body)
 {
-    return OnErrorResumeNext(std::forward<Body>(body));
+    try {
+        body();
+        return true;
+    } catch (const RunTimeError &error) {
+        if (!Err::isExpected<Expected...>(error))
+            throw;
+        Err::set(error);
+        return false;
+    }
 }

@@ -59,11 +59,5 @@ bool WritePrivateProfileString(const QString &section, const QString &key, const
     if (!ini)
         return false;
     ini->setValue(section, key, value);
-
-    try {
-        writeWholeFile(path, ini->bytes(), rightsOf);
-    } catch (const RunTimeError &) {
-        return false;
-    }
-    return true;
+    return OnErrorGoToEnd([&] { writeWholeFile(path, ini->bytes(), rightsOf); });
 }

@@ -160,10 +160,8 @@ void Printer::EndDoc()
 int Printer::deviceDotsPerInch() const
 {
     int dots = 0;
-    OnErrorResumeNext([&] {
-        if (const QString device = targetDevice(); !device.isEmpty())
-            dots = PrintQueue(device).dotsPerInch();
-    });
+    if (const QString device = targetDevice(); !device.isEmpty())
+        OnErrorResumeNext<ErrorNumber::PrinterError>([&] { dots = PrintQueue(device).dotsPerInch(); });
     return dots;
 }
 

@@ -21,7 +21,7 @@ namespace {
 int failure(const std::function<void()> &statement)
 {
     Err::Clear();
-    OnErrorResumeNext(statement);
+    OnErrorGoToEnd(statement);
     return Err::Number();
 }
 

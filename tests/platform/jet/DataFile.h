@@ -90,6 +90,6 @@ template <typename Operation>
 int errorOf(Operation operation)
 {
     Err::Clear();
-    OnErrorResumeNext(operation);
+    OnErrorGoToEnd(operation);
     return Err::Number();
 }

@@ -32,7 +32,7 @@ int failingProgram(int &argc, char **argv)
     PromptService::use(&prompts);
     const auto fail = [] { throw RunTimeError(ErrorNumber::BadSql, "Syntax error"); };
     QTimer::singleShot(0, [&] {
-        QTimer::singleShot(0, fail);
+        QTimer::singleShot(0, [&] { OnErrorResumeNext<ErrorNumber::Overflow>(fail); });
         for (int turn = 0; turn < 5; ++turn)
             DoEvents();
         std::puts("the waiting routine went on");
