@@ -166,8 +166,7 @@ void SaleReceipt::printTotals(const Content &content)
     };
     line(text(m_keys.total) + content.total);
 
-    double discount = 0;
-    OnErrorResumeNext([&] { discount = content.discount.isEmpty() ? 0 : Cdbl(content.discount); });
+    const double discount = readNumber(QStringView(content.discount)).value_or(0);
     const QString motive = discount != 0 ? " (" + content.motive() + ")" : QString();
     line(text(m_keys.discount) + receiptAmount(discount) + motive);
 

@@ -3,13 +3,12 @@
 #include "configuration/Arquivos.h"
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
-#include "platform/base/Err.h"
 #include "platform/media/Sound.h"
 
 void Tocar_Som(const QString &path)
 {
     if (Ler_INI(caminhoConfig(), "Som", "Ativo") != "0" && Existe_Arquivo(path))
-        OnErrorResumeNext([&] { sndPlaySound(path, SND_ASYNC); });
+        sndPlaySound(path, SND_ASYNC);
 }
 
 void Tocar_Caixa()

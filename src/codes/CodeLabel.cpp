@@ -32,18 +32,16 @@ void printCodeLabel(Form &opener, const QString &code)
     const LabelChoice choice = askForLabel(code);
     opener.setMousePointer(vbHourglass);
     if (choice.Coluna_Inicial > 0 && choice.Linha_Inicial > 0) {
-        OnErrorResumeNext(
-            [&] {
-                Imprimir_Barras({.tipo = "128",
-                                 .modulo = moduleTwips,
-                                 .altura = barTwips,
-                                 .textos = {code},
-                                 .mostrar_numero = choice.Mostrar_Numero,
-                                 .mostrar_barras = choice.Mostrar_Barras,
-                                 .linha = choice.Linha_Inicial,
-                                 .coluna = choice.Coluna_Inicial});
-            },
-            [] { Printer::current().EndDoc(); }, [] { Restaurar_Escala_Impressora(); });
+        Imprimir_Barras({.tipo = "128",
+                         .modulo = moduleTwips,
+                         .altura = barTwips,
+                         .textos = {code},
+                         .mostrar_numero = choice.Mostrar_Numero,
+                         .mostrar_barras = choice.Mostrar_Barras,
+                         .linha = choice.Linha_Inicial,
+                         .coluna = choice.Coluna_Inicial});
+        OnErrorResumeNext<ErrorNumber::PrinterError>([] { Printer::current().EndDoc(); });
+        Restaurar_Escala_Impressora();
     }
     opener.setMousePointer(vbDefault);
 }

@@ -2,7 +2,6 @@
 
 #include "configuration/Arquivos.h"
 #include "configuration/Globais.h"
-#include "platform/base/Err.h"
 #include "platform/files/IniProfile.h"
 #include "platform/window/Forms.h"
 
@@ -41,7 +40,7 @@ QString Ler_Idioma(const QString &file, const QString &section, const QString &k
     QString value;
     for (int number = 1; number <= numberedFiles && value.isEmpty(); ++number) {
         const QString numbered = base + QString::number(number) + extension;
-        OnErrorResumeNext([&] { value = GetPrivateProfileString(section, key, {}, textBufferSize, numbered); });
+        value = GetPrivateProfileString(section, key, {}, textBufferSize, numbered);
     }
     return value.size() > 1 ? value.mid(1, value.size() - 2) : value;
 }

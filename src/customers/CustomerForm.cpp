@@ -87,15 +87,13 @@ void CustomerForm::Selecionar_Grupo_Padrao()
     Gravar_INI(caminhoConfig(), "Grupo Clientes", "Padrao", standard);
 
     bool empty = true;
-    OnErrorResumeNext([&] {
-        OrRaise::forEachRow("Select * from Grupo_Clientes Order By Grupo", [&](const Recordset &rs) {
-            if (std::exchange(empty, false))
-                groups.clear();
-            const QString group = rs.Fields("Grupo").text().toUpper();
-            groups.addItem(group);
-            if (group == standard)
-                standard = Cstr(groups.count());
-        });
+    forEachRow("Select * from Grupo_Clientes Order By Grupo", [&](const Recordset &rs) {
+        if (std::exchange(empty, false))
+            groups.clear();
+        const QString group = rs.Fields("Grupo").text().toUpper();
+        groups.addItem(group);
+        if (group == standard)
+            standard = Cstr(groups.count());
     });
     // A group that was not found and whose name is a number is taken for a position, and that stays.
     if (IsNumeric(standard) && Cdbl(standard) <= groups.count())

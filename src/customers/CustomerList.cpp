@@ -206,8 +206,6 @@ void CustomerList::pick(int row)
 
 void CustomerList::tab_clientes_SelChange()
 {
-    OnErrorResumeNext([this] {
-        if (!ui.tab_clientes->RowIsVisible(ui.tab_clientes->RowSel()))
-            ui.tab_clientes->setTopRow(ui.tab_clientes->RowSel());
-    });
+    if (!ui.tab_clientes->RowIsVisible(ui.tab_clientes->RowSel()))
+        ui.tab_clientes->setTopRow(ui.tab_clientes->RowSel());
 }

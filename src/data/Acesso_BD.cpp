@@ -101,7 +101,7 @@ RecordsetHandle Abrir_Recordset_Opcoes(RecordsetHandle &target, DatabaseHandle &
 void Fechar_Recordset(RecordsetHandle &rs)
 {
     if (rs)
-        OnErrorResumeNext([&] { rs->Close(); });
+        rs->Close();
     rs.reset();
     Err::Clear();
 }
@@ -109,7 +109,7 @@ void Fechar_Recordset(RecordsetHandle &rs)
 void Fechar_BD(DatabaseHandle &db)
 {
     if (db)
-        OnErrorResumeNext([&] { db->Close(); });
+        db->Close();
     db.reset();
     Err::Clear();
 }
@@ -124,16 +124,13 @@ bool Existe_Tabela(const QString &name)
 {
     // A handle of its own, which sees what other programs did since the main one was opened.
     DatabaseHandle database;
-    bool found = false;
+    QList<TableDef> tables;
     Abrir_BD(CaminhoBD, 0, 3, connectText(), database);
     if (database)
-        OnErrorResumeNext([&] {
-            const QList<TableDef> tables = database->TableDefs();
-            found = std::any_of(tables.begin(), tables.end(),
-                                [&](const TableDef &table) { return table.Name.toUpper() == name.toUpper(); });
-        });
+        OnErrorResumeNext([&] { tables = database->TableDefs(); });
     Fechar_BD(database);
-    return found;
+    return std::any_of(tables.cbegin(), tables.cend(),
+                       [&](const TableDef &table) { return table.Name.toUpper() == name.toUpper(); });
 }
 
 QString Extrair_Pasta(const QString &path)

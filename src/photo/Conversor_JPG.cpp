@@ -34,19 +34,14 @@ void Salvar_JPG(const QPixmap &imagem, const QString &arquivo)
     constexpr int turnMilliseconds = 50;
     // The window that asked may be closed while this waits.
     const EventPump pump;
+    if (Existe_Arquivo(arquivo))
+        OnErrorResumeNext([&] { Kill(arquivo); });
     cDIBSection section;
-    double begin = 0;
-    OnErrorResumeNext(
-        [&] {
-            if (Existe_Arquivo(arquivo))
-                Kill(arquivo);
-        },
-        [&] { section.CreateFromPicture(imagem); }, [&] { begin = Timer(); },
-        [&] {
-            ErroJPEG = false;
-            DoEvents();
-        },
-        [&] { Gravar_JPG(section, arquivo, quality); });
+    section.CreateFromPicture(imagem);
+    const double begin = Timer();
+    ErroJPEG = false;
+    DoEvents();
+    Gravar_JPG(section, arquivo, quality);
 
     const auto waits = [&] {
         // The clock starts anew at midnight, which ends a wait as it always did.

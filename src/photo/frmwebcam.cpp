@@ -3,7 +3,6 @@
 #include "configuration/Arquivos.h"
 #include "configuration/Idiomas.h"
 #include "photo/Conversor_JPG.h"
-#include "platform/base/Err.h"
 #include "platform/window/Clipboard.h"
 #include "platform/window/Forms.h"
 #include "platform/window/Prompts.h"
@@ -23,12 +22,11 @@ void frmwebcam::Form_Load()
 {
     Sempre_No_Topo(*this, true);
     const QString cannotUse = textoIdioma("Funcoes", "MsgBox9");
-    const bool connected = OnErrorGoToEnd([&] { m_capture.connectTo(*ui->JanelaCaptura, cannotUse); });
+    m_capture.connectTo(*ui->JanelaCaptura, cannotUse);
     // The window may have been closed before the camera answered.
-    if (!isLoaded() || (connected && m_capture.Conectado))
+    if (!isLoaded() || m_capture.Conectado)
         return;
     m_capture.close();
-    Err::Clear();
     MsgBox(cannotUse, vbInformation, textoIdioma("Funcoes", "MsgBox1_2"));
     Unload();
 }

@@ -3,7 +3,6 @@
 #include "data/Placeholders.h"
 #include "data/Queries.h"
 #include "data/Statements.h"
-#include "platform/base/Err.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/BoxKeys.h"
 #include "products/ProductRecord.h"
@@ -85,10 +84,8 @@ void ProductForm::listCategories(const QString &standard)
 {
     ComboBox &categories = *ui.cmbcategoria;
     categories.clear();
-    OnErrorResumeNext([&] {
-        OrRaise::forEachRow("Select * from Categoria Order By Nome",
-                            [&](const Recordset &rs) { categories.addItem(rs.Fields("Nome").text()); });
-    });
+    forEachRow("Select * from Categoria Order By Nome",
+               [&](const Recordset &rs) { categories.addItem(rs.Fields("Nome").text()); });
     const int found = categories.findText(standard, Qt::MatchFixedString);
     categories.setText(found < 0 ? QString() : categories.itemText(found));
 }

@@ -100,7 +100,7 @@ void frmprincipal::Form_Load()
 void frmprincipal::Form_Activate()
 {
     if (!Carregado)
-        OnErrorResumeNext([this] { Carregar(); });
+        Carregar();
 }
 
 void frmprincipal::readLanguageName()

@@ -1,6 +1,5 @@
 #include "windows/OpenForms.h"
 
-#include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/window/Form.h"
 #include "platform/window/Forms.h"
@@ -35,6 +34,6 @@ void Descarregar_Forms()
     for (Form *form : forms) {
         // Unloading a window may have unloaded this one too.
         if (Forms::loaded().contains(form) && form->Name() != "frmprincipal_adm")
-            OnErrorResumeNext([&] { form->Unload(); });
+            form->Unload();
     }
 }

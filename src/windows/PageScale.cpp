@@ -1,7 +1,6 @@
 #include "windows/PageScale.h"
 
 #include "configuration/Globais.h"
-#include "platform/base/Err.h"
 #include "platform/print/Printer.h"
 
 void Salvar_Escala_Impressora()
@@ -12,10 +11,8 @@ void Salvar_Escala_Impressora()
 
 void Restaurar_Escala_Impressora()
 {
-    OnErrorResumeNext([] {
-        const Globais &globais = Globais::current();
-        Printer::current().setPageSize(globais.keptPageWidth, globais.keptPageHeight);
-    });
+    const Globais &globais = Globais::current();
+    Printer::current().setPageSize(globais.keptPageWidth, globais.keptPageHeight);
 }
 
 void setUpPrinter(Printer &printer, double points, ScaleMode scale)
