@@ -11,14 +11,6 @@
 #include "platform/text/Numbers.h"
 #include "ui_frmcadastro_categoria.h"
 
-namespace {
-/// No statement waits for the success of another: a change that is broken off halfway stays as it is.
-void executeIgnoringErrors(const QString &sql)
-{
-    OnErrorResumeNext([&] { executeStatement(sql); });
-}
-} // namespace
-
 CategoryEditing::CategoryEditing(Ui::frmcadastro_categoria &window, CategoryState &state, CategoryList &list)
     : TwoPressEdit(categoryTexts,
                    {.resting = "String5", .editing = "String6", .question = "MsgBox5", .title = "MsgBox5_2"},
@@ -59,19 +51,17 @@ bool CategoryEditing::isRefused(const QString &emptyKey)
     return true;
 }
 
-bool CategoryEditing::isTaken(const QString &condition)
+void CategoryEditing::tellTaken()
 {
-    if (!hasRow("Select * from Categoria Where " + condition))
-        return false;
     categoryTexts.noticeText(categoryTexts.text("MsgBox3") + typedName() + categoryTexts.text("MsgBox3_2"));
-    return true;
 }
 
 void CategoryEditing::store()
 {
     const double codigo = OrRaise::keyBehind("Select Max(Codigo) From Categoria");
     const QString name = typedName();
-    if (isTaken("nome='" + name + "'")) {
+    if (OrRaise::hasRow("Select * from Categoria Where nome='" + name + "'")) {
+        tellTaken();
         ui.txtnome->setFocus();
         return;
     }
@@ -103,8 +93,12 @@ void CategoryEditing::begin()
 bool CategoryEditing::save()
 {
     const QString name = typedName();
-    if (isRefused("MsgBox6") || isTaken("Nome='" + name + "' AND Codigo <> " + Cstr(m_state.CodigoCategoria)))
+    if (isRefused("MsgBox6"))
         return false;
+    if (hasRow("Select * from Categoria Where Nome='" + name + "' AND Codigo <> " + Cstr(m_state.CodigoCategoria))) {
+        tellTaken();
+        return false;
+    }
     if (m_state.NomeAntigo == categoryTexts.loaded("String7") && name != m_state.NomeAntigo) {
         categoryTexts.notice("MsgBox7");
         return false;
@@ -117,6 +111,7 @@ bool CategoryEditing::save()
 
 void CategoryEditing::carryOver(const QString &name)
 {
+    // No statement waits for the success of another: a change that is broken off halfway stays as it is.
     executeIgnoringErrors("Update Categoria Set Nome = '" + name + "' Where Codigo = " + Cstr(m_state.CodigoCategoria));
     const QString renamed = "Categoria = '" + name + "'";
     const QString formerly = "Where Categoria = '" + m_state.NomeAntigo + "'";

@@ -22,8 +22,7 @@ private:
     QString typedName() const;
     /// Whether the name can't stand in a statement or is missing, which is told.
     bool isRefused(const QString &emptyKey);
-    /// Whether another category has the name, which is told.
-    bool isTaken(const QString &condition);
+    void tellTaken();
     void store();
     void begin() override;
     bool save() override;

@@ -75,13 +75,10 @@ void CodeCreation::Cadastrar_Codigo(quint8 &ok)
     if (hasRow("Select Codigo_Acesso From Codigo_Acesso Where Codigo_Acesso='" + code + "'"))
         return say("MsgBox3");
     // A home page with an apostrophe breaks the statement, and nobody is told. That stays.
-    OnErrorResumeNext([&] {
-        executeStatement("Insert into Codigo_Acesso (Codigo_Acesso,status,Valor_Disponivel,Tipo_Codigo,URL,"
-                         "Data_Criacao) values ('" +
-                         code + "','" + "N','" + amountText(ui.txtvalor_disponível->text()) + "','" +
-                         m_state.Tipo_Inicial + "','" + ui.txturl->text() + "','" +
-                         FormatDate(Machine::current().now(), FormatoData) + "')");
-    });
+    executeIgnoringErrors(
+        "Insert into Codigo_Acesso (Codigo_Acesso,status,Valor_Disponivel,Tipo_Codigo,URL,Data_Criacao) values ('" +
+        code + "','" + "N','" + amountText(ui.txtvalor_disponível->text()) + "','" + m_state.Tipo_Inicial + "','" +
+        ui.txturl->text() + "','" + FormatDate(Machine::current().now(), FormatoData) + "')");
     ok = stored;
 }
 
@@ -97,15 +94,15 @@ void CodeCreation::Vincular_Codigo(const QString &codigo, const QString &nome)
         if (OrRaise::hasRow("Select Codigo_Acesso From Codigo_Acesso " + thisCode + " And Vendido=True") &&
             !codeTexts.confirms("MsgBox6", "MsgBox1_2", vbInformation))
             return;
-        storeLink(codigo, nome);
+        m_state.Proximo_Codigo = OrRaise::keyBehind(LastLink);
+        executeStatement(linkStatement(m_state.Proximo_Codigo, codigo, nome));
         executeStatement("UPDATE Codigo_Acesso Set Vinculado=True, Vendido=True Where Codigo_Acesso='" + codigo + "'");
         say("MsgBox7");
     });
 }
 
-void CodeCreation::storeLink(const QString &codigo, const QString &nome)
+QString CodeCreation::linkStatement(double key, const QString &codigo, const QString &nome)
 {
-    m_state.Proximo_Codigo = keyBehind("Select Max(Codigo) From Links");
-    executeStatement("Insert into Links (Codigo, Nome, Codigo_Acesso) values (" + Cstr(m_state.Proximo_Codigo) + ",'" +
-                     nome.toUpper() + "','" + upperCode(codigo) + "')");
+    return "Insert into Links (Codigo, Nome, Codigo_Acesso) values (" + Cstr(key) + ",'" + nome.toUpper() + "','" +
+           upperCode(codigo) + "')";
 }

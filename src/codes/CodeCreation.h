@@ -24,7 +24,10 @@ public:
     void Cadastrar_Codigo(quint8 &ok);
     /// Gives a stored code to a customer; a failure ends it without a word.
     void Vincular_Codigo(const QString &codigo, const QString &nome);
-    void storeLink(const QString &codigo, const QString &nome);
+
+    /// Asks for the key before that of the next link.
+    static constexpr const char *LastLink = "Select Max(Codigo) From Links";
+    static QString linkStatement(double key, const QString &codigo, const QString &nome);
 
     /// Ends the hourglass, tells the text of that key, and hands the keyboard to what it speaks of.
     void say(const QString &key, class QWidget *focus = nullptr);

@@ -13,7 +13,6 @@
 #include "data/Lookups.h"
 #include "data/Queries.h"
 #include "data/Statements.h"
-#include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/files/IniProfile.h"
 #include "platform/text/Dates.h"
@@ -133,24 +132,21 @@ void CodeSale::storeSale()
     const QString code = ui.txtadi_cartao->text();
     const QDateTime moment = Machine::current().now();
     // Each failure goes unseen, and what follows is still tried.
-    OnErrorResumeNext(
-        [&] {
-            m_state.Proximo_Codigo = keyBehind("Select Max(Codigo) From Venda_Codigos");
-            executeStatement(
-                "Insert into Venda_Codigos (Codigo,Data,Hora,Codigo_Acesso,Nome,Nick,Valor,"
-                "Recarregamento,Avulsa,Desconto,Motivo_Desconto, Id_Caixa) values (" +
-                QStringList{
-                    Cstr(m_state.Proximo_Codigo), quoted(FormatDate(moment, FormatoData)), quoted(FormatTime(moment)),
+    m_state.Proximo_Codigo = keyBehind("Select Max(Codigo) From Venda_Codigos");
+    executeIgnoringErrors(
+        "Insert into Venda_Codigos (Codigo,Data,Hora,Codigo_Acesso,Nome,Nick,Valor,"
+        "Recarregamento,Avulsa,Desconto,Motivo_Desconto, Id_Caixa) values (" +
+        QStringList{Cstr(m_state.Proximo_Codigo), quoted(FormatDate(moment, FormatoData)), quoted(FormatTime(moment)),
                     quoted(code), quoted(m_state.Nome_Cliente.toUpper()), quoted(m_state.Nick_Cliente.toUpper()),
                     quoted(amountText(m_discount.Total_Venda)) + "," + QString::number(m_state.Recarga_Venda) + " , " +
                         QString::number(m_state.Avulsa_Venda) + " , " + quoted(amountText(m_discount.Valor_Desconto)),
                     quoted(m_state.Motivo_Venda), Cstr(IdCaixa)}
-                    .join(',') +
-                ")");
-        },
-        [&] { executeStatement("UPDATE Codigo_Acesso SET Vendido=True Where Codigo_Acesso='" + code + "'"); },
-        [&] { m_creation.storeLink(code, m_state.Nome_Cliente); },
-        [&] { executeStatement("UPDATE Codigo_Acesso Set Vinculado=True Where Codigo_Acesso='" + code + "'"); });
+            .join(',') +
+        ")");
+    executeIgnoringErrors("UPDATE Codigo_Acesso SET Vendido=True Where Codigo_Acesso='" + code + "'");
+    m_state.Proximo_Codigo = keyBehind(CodeCreation::LastLink);
+    executeIgnoringErrors(CodeCreation::linkStatement(m_state.Proximo_Codigo, code, m_state.Nome_Cliente));
+    executeIgnoringErrors("UPDATE Codigo_Acesso Set Vinculado=True Where Codigo_Acesso='" + code + "'");
 }
 
 void CodeSale::printLabel()

@@ -65,8 +65,8 @@ void CustomerList::load(const QString &campo)
         grid.setRows(1);
 
         int count = 0;
-        readFirstRow("Select Count(*) from Clientes",
-                     [&](const Recordset &rs) { count = static_cast<int>(rs.Fields(0).number()); });
+        OrRaise::readFirstRow("Select Count(*) from Clientes",
+                              [&](const Recordset &rs) { count = static_cast<int>(rs.Fields(0).number()); });
         bool anyone = false;
         OrRaise::forEachRow("Select Codigo,Nome,Nick,Grupo,Data_Nasc,Obs,Autorizado from Clientes Order By " + campo,
                             [&](const Recordset &rs) {

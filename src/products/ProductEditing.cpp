@@ -53,11 +53,10 @@ bool ProductEditing::save()
         return false;
     ProductRecord product = m_form.record();
     product.Servico = m_state.Servico_Produto;
-    const auto execute = [](const QString &sql) { OnErrorResumeNext([&] { executeStatement(sql); }); };
-    execute(updateStatement(product, m_state.CodigoEditado));
+    executeIgnoringErrors(updateStatement(product, m_state.CodigoEditado));
     updateCategoryOfSales("Categoria = '" + product.Categoria + "' Where Descrição = '" + product.Descrição + "'",
-                          execute);
-    OnErrorResumeNext([&] { m_list.showProduct(m_state.LinhaEditada, product); });
+                          executeIgnoringErrors);
+    OnErrorResumeNext<ErrorNumber::SubscriptOutOfRange>([&] { m_list.showProduct(m_state.LinhaEditada, product); });
     // Not after a no: then the supplier stays locked until the reserved product is saved. It stays.
     if (m_state.CodigoEditado == reservedProduct)
         m_form.setReservedEnabled(true);

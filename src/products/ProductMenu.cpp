@@ -1,7 +1,6 @@
 #include "products/ProductMenu.h"
 
 #include "data/Statements.h"
-#include "platform/base/Err.h"
 #include "platform/window/Prompts.h"
 #include "products/ProductList.h"
 #include "products/ProductTexts.h"
@@ -10,10 +9,6 @@ void setMenuFlags(ProductList &list, bool inMenu)
 {
     if (!productTexts.confirms(inMenu ? "MsgBox12" : "MsgBox11", "MsgBox11_2", vbQuestion))
         return;
-    OnErrorResumeNext(
-        [&] {
-            executeStatement(
-                QString("UPDATE Produtos Set Cardapio=%1 Where Codigo > 0").arg(inMenu ? "True" : "False"));
-        },
-        [&] { list.showMenuFlag(inMenu); });
+    executeIgnoringErrors(QString("UPDATE Produtos Set Cardapio=%1 Where Codigo > 0").arg(inMenu ? "True" : "False"));
+    list.showMenuFlag(inMenu);
 }

@@ -3,7 +3,6 @@
 #include "data/Acesso_BD.h"
 #include "data/Queries.h"
 #include "data/Statements.h"
-#include "platform/base/Err.h"
 #include "products/ProductForm.h"
 #include "products/ProductList.h"
 #include "products/ProductRecord.h"
@@ -19,8 +18,8 @@ void registerProduct(const Ui::frmcadastro_produtos &window, ProductForm &form, 
     // The first product ever stored is the reserved one.
     const double codigo = keyBehind("Select Max(codigo) From Produtos");
     const ProductRecord product = form.record();
-    OnErrorResumeNext([&] { executeStatement(insertStatement(product, codigo)); },
-                      // Whether or not the data file took it. That stays.
-                      [&] { list.addProduct(codigo, product); });
+    executeIgnoringErrors(insertStatement(product, codigo));
+    // Whether or not the data file took it. That stays.
+    list.addProduct(codigo, product);
     form.clear();
 }

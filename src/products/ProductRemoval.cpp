@@ -1,7 +1,6 @@
 #include "products/ProductRemoval.h"
 
 #include "data/Statements.h"
-#include "platform/base/Err.h"
 #include "platform/base/LongWork.h"
 #include "platform/text/Numbers.h"
 #include "platform/window/FlexGrid.h"
@@ -51,10 +50,8 @@ bool removeProducts(Form &form, const FlexGrid &tab_produtos, const ProductState
         productTexts.notice("MsgBox24");
         return false;
     }
-    OnErrorResumeNext([&] {
-        const LongWork work;
-        executeStatement("DELETE FROM Produtos WHERE " +
-                         conditionOf(tab_produtos, std::min(picked, selected), std::max(picked, selected)));
-    });
+    const LongWork work;
+    executeIgnoringErrors("DELETE FROM Produtos WHERE " +
+                          conditionOf(tab_produtos, std::min(picked, selected), std::max(picked, selected)));
     return true;
 }

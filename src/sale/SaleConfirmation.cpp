@@ -36,10 +36,8 @@ const QString attention = "Atenção";
 
 void lowerStock(const CartLine &line)
 {
-    OnErrorResumeNext([&] {
-        executeStatement(QString("UPDATE Produtos SET") + " Quantidade=(Cdbl(Quantidade)-CDbl('" + line.Quantidade +
-                         "'))" + " Where Descrição='" + line.Descrição + "' And Servico=False");
-    });
+    executeIgnoringErrors(QString("UPDATE Produtos SET") + " Quantidade=(Cdbl(Quantidade)-CDbl('" + line.Quantidade +
+                          "'))" + " Where Descrição='" + line.Descrição + "' And Servico=False");
 }
 
 /// 255 for a stock product at or below its minimum.
@@ -187,9 +185,9 @@ void SaleConfirmation::store()
 double SaleConfirmation::shareOf(const CartLine &line, double &sum) const
 {
     const double whole = m_discount.Valor_Desconto;
-    double share = 0;
     // A line without a value has no share.
-    OnErrorResumeNext([&] { share = Valor_Proporcional(whole, m_discount.Total_Venda, Cdbl(line.Valor)); });
+    const double value = readNumber(QStringView(line.Valor)).value_or(0);
+    double share = Valor_Proporcional(whole, m_discount.Total_Venda, value);
     sum += shownAmount(share);
     // The excess comes off the line at which it shows; the sum is not corrected, so a later line takes it off again.
     if (sum > whole)
@@ -205,17 +203,15 @@ void SaleConfirmation::storeLine(const CartLine &line, double share)
     const QDateTime moment = Machine::current().now();
     const QString when = quoted(FormatDate(moment)) + "," + quoted(FormatTime(moment));
     const QString period = Cstr(IdCaixa);
-    OnErrorResumeNext([&] {
-        executeStatement(
-            "Insert into Venda_Produtos (Codigo,Data,Hora,Descrição,Quantidade,Nome,Nick,Avulsa,Debito,Valor_Total,"
-            "Desconto,Motivo_Desconto,Data_Pag,Hora_Pag,Id_Caixa,Id_Caixa_Pago,Categoria) values (" +
-            QStringList{Cstr(m_state.Proximo_Codigo), when, quoted(line.Descrição), quoted(line.Quantidade),
-                        quoted(m_state.Nome_Cliente), quoted(m_state.Nick_Cliente), Cstr(m_state.Avulsa_Venda),
-                        Cstr(m_state.Debito_Venda), quoted(line.Valor), quoted(amountText(share)),
-                        quoted(m_state.Motivo_Venda), when, period, period, quoted(category)}
-                .join(',') +
-            ")");
-    });
+    executeIgnoringErrors(
+        "Insert into Venda_Produtos (Codigo,Data,Hora,Descrição,Quantidade,Nome,Nick,Avulsa,Debito,Valor_Total,"
+        "Desconto,Motivo_Desconto,Data_Pag,Hora_Pag,Id_Caixa,Id_Caixa_Pago,Categoria) values (" +
+        QStringList{Cstr(m_state.Proximo_Codigo), when, quoted(line.Descrição), quoted(line.Quantidade),
+                    quoted(m_state.Nome_Cliente), quoted(m_state.Nick_Cliente), Cstr(m_state.Avulsa_Venda),
+                    Cstr(m_state.Debito_Venda), quoted(line.Valor), quoted(amountText(share)),
+                    quoted(m_state.Motivo_Venda), when, period, period, quoted(category)}
+            .join(',') +
+        ")");
 }
 
 void SaleConfirmation::reset()
