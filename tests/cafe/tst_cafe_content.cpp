@@ -106,27 +106,23 @@ private slots:
         const QString folder = m_place.filePath("large");
         createCafe(folder, {true, Customers, Products, 0, false});
         const DatabaseHandle db = openDataFile(folder);
-        const auto repeated = [&](const QString &field, const QString &table, const QString &nothing = {}) {
+        const auto repeated = [&](const QString &field, const QString &table, const QString &nothing) {
             QStringList values = column(*db, "Select " + field + " From " + table);
             values.removeAll(nothing);
             return values.size() - QSet<QString>(values.begin(), values.end()).size();
         };
         QCOMPARE(column(*db, "Select Nome From Clientes").size(), Customers);
         QCOMPARE(column(*db, "Select Codigo From Produtos").size(), Products + 1);
-        QCOMPARE(repeated("Nome", "Clientes"), 0);
-        QCOMPARE(repeated("Nick", "Clientes", "------"), 0);
-        QCOMPARE(repeated("Documento", "Clientes", "------"), 0);
-        QCOMPARE(repeated("Descrição", "Produtos"), 0);
-        QCOMPARE(repeated("Cod", "Produtos", "---"), 0);
-        QCOMPARE(repeated("Cod_Barra", "Produtos", "-------------"), 0);
-
+        for (const char *field : {"Nome", "Nick", "Documento"})
+            QCOMPARE(repeated(field, "Clientes", "------"), 0);
+        for (const auto &[field, nothing] :
+             {std::pair("Descrição", ""), {"Cod", "---"}, {"Cod_Barra", "-------------"}})
+            QCOMPARE(repeated(field, "Produtos", nothing), 0);
         // What the boxes of the customer window hold at most.
-        const QList<std::pair<QString, int>> limits{
-            {"Nome", 50}, {"Nick", 30}, {"Rua", 33}, {"Filiacao", 50}, {"CEP", 10}};
-        for (const auto &[field, limit] : limits) {
+        for (const auto &[field, limit] :
+             {std::pair<QString, int>("Nome", 50), {"Nick", 30}, {"Rua", 33}, {"Filiacao", 50}, {"CEP", 10}})
             for (const QString &value : column(*db, "Select " + field + " From Clientes"))
                 QVERIFY2(value == value.toUpper() && !value.isEmpty() && value.size() <= limit, qPrintable(value));
-        }
     }
 
 private:

@@ -1,6 +1,7 @@
 #include "data/Connection.h"
 #include "platform/files/IniProfile.h"
 #include "tests/support/EngineSql.h"
+#include "tests/support/Files.h"
 
 #include <QDir>
 #include <QProcess>
@@ -29,12 +30,6 @@ Answer tool(const QStringList &arguments, const QString &locale = "en_US.UTF-8")
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
         return {-1, {}, process.errorString()};
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-QByteArray read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QStringList entries(const QString &folder)
@@ -82,7 +77,7 @@ private slots:
     void refuses()
     {
         QCOMPARE(tool({"create", at("cafe")}).code, 0);
-        const QByteArray dataFile = read(at("cafe/Morvelane.mdb"));
+        const QByteArray dataFile = readFile(at("cafe/Morvelane.mdb"));
         const auto check = [&](int code, const QString &word, QStringList arguments) {
             for (QString &argument : arguments)
                 if (argument.startsWith('@'))
@@ -92,7 +87,7 @@ private slots:
             QVERIFY2(answer.code == code && answer.err.contains(word), qPrintable(shown));
             QVERIFY2(answer.err.count('\n') == 1 && answer.out.isEmpty(), qPrintable(shown));
             QCOMPARE(entries(m_place->path()), QStringList("cafe"));
-            QVERIFY2(read(at("cafe/Morvelane.mdb")) == dataFile, qPrintable(shown));
+            QVERIFY2(readFile(at("cafe/Morvelane.mdb")) == dataFile, qPrintable(shown));
         };
         check(2, "\"-1\"", {"create", "@new", "--demo", "--sales=-1"});
         check(1, "at most", {"create", "@new", "--demo", "--customers", "2000000"});

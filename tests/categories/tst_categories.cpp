@@ -2,7 +2,6 @@
 #include "tests/support/TestDesk.h"
 
 #include <QCheckBox>
-#include <QTest>
 
 namespace {
 /// The categories' window in a café with the categories BEBIDAS, DIVERSOS and DOCES, each with one product and one sale

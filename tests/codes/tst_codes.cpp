@@ -3,7 +3,6 @@
 #include "tests/support/TestDesk.h"
 
 #include <QLineEdit>
-#include <QTest>
 
 namespace {
 /// The window of the access codes, opened for ANA LIMA, who is customer 7 here. Codes are paid before, and neither
@@ -82,7 +81,7 @@ private slots:
         CodeDesk desk;
         desk.open();
         QCOMPARE(desk.shown("txtvalor_disponível") + desk.shown("txturl"), "5" + page);
-        desk.type("txtvalor_disponível", "1.50");
+        desk.type("txtvalor_disponível", "1.5,-0");
         QCOMPARE(desk.shown("lbltotal") + desk.shown("lbltotal_final"), QString("R$ 1,50R$ 1,50"));
         desk.expectQuestion("1,50", {}, vbNo);
         pressKey(desk.at("txtvalor_disponível"), Qt::Key_Return);

@@ -2,19 +2,14 @@
 #include "codes/CodeLabel.h"
 #include "codes/LabelSheet.h"
 #include "configuration/Globais.h"
-#include "platform/window/Forms.h"
-#include "tests/support/Attendant.h"
-#include "tests/support/Controls.h"
-#include "tests/support/FakeMachine.h"
 #include "tests/support/PdfBarcodes.h"
 #include "tests/support/PdfText.h"
 #include "tests/support/PrintSystem.h"
-#include "tests/support/TestCafe.h"
+#include "tests/support/TestDesk.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QScopeGuard>
-#include <QTest>
 
 #include <random>
 

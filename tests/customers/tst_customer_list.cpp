@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
-#include <QTest>
 
 /// The list of customers: sorting, searching, editing with what follows from another name or nick, removing, and the
 /// road to it from the sale window.

@@ -1,6 +1,5 @@
 #include "tests/customers/CustomerDesk.h"
 
-#include "platform/base/Machine.h"
 #include "platform/window/PictureBox.h"
 #include "sale/frmvenda.h"
 #include "windows/OpenForms.h"
@@ -9,7 +8,6 @@
 #include <QDir>
 #include <QImage>
 #include <QLineEdit>
-#include <QTest>
 
 namespace {
 const QString allFields = "Codigo,Nome,Data_Nasc,Rua,Numero,Complemento,Bairro,Cidade,UF,CEP,Tel_Residencial,"

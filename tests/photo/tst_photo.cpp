@@ -1,14 +1,10 @@
 #include "photo/Conversor_JPG.h"
 #include "photo/frmwebcam.h"
 #include "platform/window/Clipboard.h"
-#include "platform/window/Forms.h"
 #include "platform/window/PictureBox.h"
 #include "shell/frmprincipal.h"
-#include "tests/support/Attendant.h"
-#include "tests/support/Controls.h"
-#include "tests/support/FakeMachine.h"
 #include "tests/support/FullDisk.h"
-#include "tests/support/TestCafe.h"
+#include "tests/support/TestDesk.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -16,7 +12,6 @@
 #include <QGuiApplication>
 #include <QRandomGenerator>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 
 #include <cmath>
@@ -67,11 +62,12 @@ struct Window
         return form;
     }
     PictureBox &preview() const { return control<PictureBox>(form, "JanelaCaptura"); }
+    QImage previewed() const { return preview().Picture().toImage(); }
     QImage captured() const { return control<PictureBox>(form, "pctfoto").Picture().toImage(); }
     void press(const char *button) const { click(form, button); }
     bool sees(const QImage &image) const
     {
-        return QTest::qWaitFor([&] { return preview().Picture().toImage() == image; });
+        return QTest::qWaitFor([&] { return previewed() == image; });
     }
 
     TestCamera &camera;
@@ -134,8 +130,8 @@ private slots:
             const QImage wanted = seen.copy((size.width() - cut.width()) / 2, 0, cut.width(), cut.height())
                                       .scaled(640, 480, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
             Window window(camera);
-            QVERIFY2(psnr(window.preview().Picture().toImage(), wanted) > 25,
-                     qPrintable(QString::number(psnr(window.preview().Picture().toImage(), wanted))));
+            const double likeness = psnr(window.previewed(), wanted);
+            QVERIFY2(likeness > 25, qPrintable(QString::number(likeness)));
         }
         TestCamera &camera = m_machine.installCamera();
         camera.offer("image/jpeg,width=640,height=480;video/x-raw,width=352,height=288,framerate=30/1;"
@@ -143,8 +139,8 @@ private slots:
                      "video/x-raw,width=640,height=480,framerate={30/1,5/1}");
         Window window(camera);
         // Squares of eight pixels that were not scaled.
-        QCOMPARE(window.preview().Picture().toImage().pixel(7, 7), window.preview().Picture().toImage().pixel(0, 0));
-        QVERIFY(window.preview().Picture().toImage().pixel(8, 7) != window.preview().Picture().toImage().pixel(7, 7));
+        QCOMPARE(window.previewed().pixel(7, 7), window.previewed().pixel(0, 0));
+        QVERIFY(window.previewed().pixel(8, 7) != window.previewed().pixel(7, 7));
     }
 
     void noCameraClosesTheWindow()
@@ -218,36 +214,31 @@ private slots:
         QVERIFY(Forms::loaded().isEmpty() && isWithoutChildren() && opened == 3);
     }
 
-    void fileHoldsThePicture()
+    void fileHoldsThePictureOrNothing()
     {
         const QTemporaryDir folder;
+        const auto save = [&](const QImage &image, const QString &name = "Fototemp.jpg") {
+            const QTime begin = m_machine.clock.time();
+            Salvar_JPG(QPixmap::fromImage(image), folder.filePath(name));
+            return begin.secsTo(m_machine.clock.time());
+        };
+        // Failures wait their time out.
+        {
+            const FullDisk full;
+            QCOMPARE(save(snapshot({640, 480})), 25);
+        }
+        QCOMPARE(save({}), 25);
+        m_machine.clock.setTime(QTime(23, 59, 58));
+        save(snapshot({640, 480}), "missing folder/Fototemp.jpg");
+        QVERIFY(m_machine.clock.time() < QTime(0, 0, 1));
+        QCOMPARE(filesIn(folder), QStringList());
         QVERIFY(snapshot({9, 9}).save(folder.filePath("FOTOTEMP.JPG")));
-        const QDateTime begin = m_machine.clock;
         for (const QSize size : {QSize(349, 290), QSize(640, 480), QSize(1, 1)}) {
-            Salvar_JPG(QPixmap::fromImage(snapshot(size)), folder.filePath("Fototemp.jpg"));
+            QCOMPARE(save(snapshot(size)), 0);
             QCOMPARE(filesIn(folder).size(), 1);
             const double likeness = psnr(QImage(folder.filePath(filesIn(folder).first())), snapshot(size));
             QVERIFY2(likeness > 35, qPrintable(QString::number(likeness)));
         }
-        QCOMPARE(m_machine.clock, begin);
-    }
-
-    void failuresWaitTheirTimeOut()
-    {
-        const QTemporaryDir folder;
-        const QPixmap picture = QPixmap::fromImage(snapshot({640, 480}));
-        const QTime begin = m_machine.clock.time();
-        {
-            const FullDisk full;
-            Salvar_JPG(picture, folder.filePath("Fototemp.jpg"));
-        }
-        QCOMPARE(begin.secsTo(m_machine.clock.time()), 25);
-        Salvar_JPG(QPixmap(), folder.filePath("Fototemp.jpg"));
-        QCOMPARE(begin.secsTo(m_machine.clock.time()), 50);
-        m_machine.clock.setTime(QTime(23, 59, 58));
-        Salvar_JPG(picture, folder.filePath("missing folder/Fototemp.jpg"));
-        QVERIFY(m_machine.clock.time() < QTime(0, 0, 1));
-        QCOMPARE(filesIn(folder), QStringList());
     }
 
 private:

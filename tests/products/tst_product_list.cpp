@@ -1,10 +1,7 @@
 #include "tests/products/ProductDesk.h"
 
-#include "platform/window/Forms.h"
 #include "sale/frmvenda.h"
 #include "windows/OpenForms.h"
-
-#include <QTest>
 
 /// The list of products: loading, searching, removing, the menu, and the road to it from the sale window.
 class tst_product_list : public QObject

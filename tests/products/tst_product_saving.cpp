@@ -1,8 +1,6 @@
 #include "platform/window/TextBox.h"
 #include "tests/products/ProductDesk.h"
 
-#include <QTest>
-
 /// New products, and the two presses of an edit.
 class tst_product_saving : public QObject
 {

@@ -6,7 +6,6 @@
 #include "tests/support/TestDesk.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 #include <numeric>
 

@@ -3,7 +3,6 @@
 #include "tests/support/KeyQueue.h"
 
 #include <QCheckBox>
-#include <QTest>
 
 /// What lies in the cart, who buys it and which rule of discount it meets, up to the moment of paying.
 class tst_cart : public QObject

@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QTest>
 #include <QTimer>
 
 #include <functional>
@@ -24,9 +23,10 @@ private slots:
         const auto refuses = [&](const QString &key, const QString &focus = {}) {
             counter.refuses("cmdfinalizar", counter.text(key), focus);
         };
-        counter.change("Registro_Caixa", "Caixa_Aberto=False");
+        // The newest period decides.
+        counter.cafe.execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (8,False)");
         refuses("MsgBox7");
-        counter.cafe.execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (8,True)");
+        counter.cafe.execute("Insert into Registro_Caixa (ID_Caixa,Caixa_Aberto) values (1000000,True)");
         refuses("MsgBox8", "cmbprodutos");
         counter.put("BALA");
         counter.type("txtvalor_desconto", "10,90");

@@ -1,8 +1,6 @@
 #include "tests/sale/SaleCounter.h"
 #include "tests/support/PdfText.h"
 
-#include <QTest>
-
 /// What a sale leaves on paper, and how receipts are numbered.
 class tst_receipts : public QObject
 {

@@ -3,7 +3,6 @@
 
 #include <QAbstractItemView>
 #include <QMessageBox>
-#include <QTest>
 #include <QTimer>
 
 namespace {
@@ -51,6 +50,10 @@ private slots:
         QCOMPARE(counter.cart(), (QStringList{"ÁGUA|1|10,00", "BALA|1|10,00", "CAFÉ|9|90,00", "DOCE|9|90,00"}));
         KeyQueue().type("3\n", 200).arrive();
         QCOMPARE(counter.cart().last(), QString("ESFIHA|3|30,00"));
+        // An Enter of her own, some time behind the scanner's.
+        scan(sweetCode);
+        KeyQueue().type("\n", 200).arrive();
+        QCOMPARE(counter.cart()[1], QString("BALA|4|40,00"));
         QCOMPARE(counter.shown("txtnome"), QString("ANA LIMA"));
     }
 
@@ -114,6 +117,10 @@ private slots:
             counter.expectNotice("MsgBox6");
             types(keys, text);
         }
+        // Keys without time stamps are no scan.
+        counter.expectNotice("MsgBox6");
+        counter.enter("txtnome", "12345678");
+        QCOMPARE(counter.shown("cmbprodutos"), QString());
         // Seven digits are no code: Enter finds the customer.
         types([](KeyQueue &keys) { keys.type("1234567\n", 20); }, "1234567 ABC");
         counter.attendant.finish();

@@ -1,9 +1,7 @@
 #include "data/Connection.h"
-#include "platform/base/Machine.h"
 #include "platform/jet/DBEngine.h"
 #include "platform/text/RegionalSettings.h"
 #include "platform/window/Application.h"
-#include "platform/window/Forms.h"
 #include "shell/frmprincipal.h"
 #include "tests/sale/SaleCounter.h"
 #include "tests/support/FileHolder.h"
@@ -11,7 +9,6 @@
 
 #include <QElapsedTimer>
 #include <QProcess>
-#include <QTest>
 #include <QTimer>
 
 #include <iostream>

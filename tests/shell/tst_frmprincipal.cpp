@@ -1,17 +1,12 @@
 #include "configuration/Arquivos_INI.h"
 #include "configuration/Globais.h"
 #include "data/Acesso_BD.h"
-#include "platform/window/Forms.h"
 #include "shell/Registros.h"
 #include "shell/frmprincipal.h"
-#include "tests/support/Attendant.h"
-#include "tests/support/Controls.h"
-#include "tests/support/FakeMachine.h"
-#include "tests/support/TestCafe.h"
+#include "tests/support/TestDesk.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTest>
 #include <QTimer>
 
 namespace {
@@ -21,27 +16,18 @@ const QString advice =
     "Certifique-se que o caminho indicado está liberado totalmente para leitura e gravação de dados!";
 const QString blocked = "A execução do programa está bloqueada. Solicite permissão ao administrador!";
 
-struct Shell
+/// The main window of a program that hasn't started.
+class Shell : public TestDesk
 {
-    FakeMachine machine;
-    TestCafe cafe;
-    Attendant attendant;
-    Form *window = nullptr;
-
-    void open()
-    {
-        window = &Forms::use<frmprincipal>();
-        window->Show();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-    }
-    QWidget &at(const QString &name) const { return control(*window, name); }
-    bool ready() const { return at("cmdvendaprod").isEnabled(); }
+public:
+    Shell() : TestDesk({"frmprincipal", {}}, use<frmprincipal>) { Globais::current() = {}; }
+    bool ready() { return at("cmdvendaprod").isEnabled(); }
     QString pointerFile() const { return cafe.programFolder() + "/ConfigIni.txt"; }
     QString pointer() const { return Ler_INI(pointerFile(), "Configuracoes", "BD"); }
     /// Whether the door opens the sale window, which is closed again.
-    bool enters() const
+    bool enters()
     {
-        click(at("cmdvendaprod"));
+        press("cmdvendaprod");
         const QList<Form *> forms = Forms::loaded();
         const bool entered = forms.size() == 2 && forms[1]->Name() == "frmvenda" && forms[1]->isVisible();
         if (entered)
@@ -67,9 +53,9 @@ private slots:
         QVERIFY(shell.ready());
         // The pointer file is written at each press, changed path or not.
         QFile::remove(shell.pointerFile());
-        click(shell.at("cmdvendaprod"));
+        shell.press("cmdvendaprod");
         QCOMPARE(shell.pointer(), shell.cafe.dataFile());
-        shell.window->close();
+        shell.window().close();
         QCOMPARE(Forms::loaded().size(), 0);
         QVERIFY(!BancoPrincipal);
         QCOMPARE(Texto_Erro_Registro(1015) + Texto_Erro_Registro(3),
@@ -85,7 +71,7 @@ private slots:
         QVERIFY(!shell.ready());
         shell.cafe.setIni("Config_Regional", "Idioma", "Portugues.lng");
         shell.attendant.expectOpenFile("Morvelane.mdb (Morvelane.mdb) |Morvelane.mdb|", shell.cafe.dataFile());
-        click(shell.at("cmdbuscabd"));
+        shell.press("cmdbuscabd");
         QVERIFY(shell.ready());
     }
 
@@ -119,7 +105,7 @@ private slots:
                                                          {"/LANGUAGES\\..\\morvelane.MDB", ""}}) {
             const QString known = CaminhoBD;
             const QString typed = row[0].isEmpty() ? QString() : shell.cafe.folder() + row[0];
-            replaceText(shell.at("txtbasedados"), typed);
+            shell.type("txtbasedados", typed);
             if (!row[1].isEmpty())
                 shell.attendant.expectNotice(row[1], "Aviso");
             QCOMPARE(shell.enters(), row[1].isEmpty());
@@ -138,13 +124,13 @@ private slots:
         for (const QStringList &row : QList<QStringList>{{other.dataFile(), "R$"},
                                                          {other.folder() + "//Morvelane.mdb", "US$"},
                                                          {shell.cafe.dataFile(), "US$"}}) {
-            replaceText(shell.at("txtbasedados"), row[0]);
+            shell.type("txtbasedados", row[0]);
             QVERIFY(shell.enters());
             QCOMPARE((QStringList{CaminhoBD, SimboloMoeda, shell.pointer()}), row + QStringList{row[0]});
         }
         // Typed while the texts are loaded: what stands in the box in the end is opened.
-        replaceText(shell.at("txtbasedados"), other.dataFile());
-        QTimer::singleShot(0, [&] { replaceText(shell.at("txtbasedados"), shell.cafe.dataFile()); });
+        shell.type("txtbasedados", other.dataFile());
+        QTimer::singleShot(0, [&] { shell.type("txtbasedados", shell.cafe.dataFile()); });
         QVERIFY(shell.enters());
         QCOMPARE(shell.pointer(), shell.cafe.dataFile());
     }

@@ -6,7 +6,6 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QPalette>
-#include <QTest>
 
 #include <cmath>
 

@@ -1,7 +1,6 @@
 #include "tests/support/Attendant.h"
 
 #include <QGuiApplication>
-#include <QTest>
 
 #include <utility>
 

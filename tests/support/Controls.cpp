@@ -4,7 +4,6 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QTest>
 
 namespace {
 void takeFocus(QWidget &control)

@@ -1,6 +1,6 @@
 #include "tests/support/FakeMachine.h"
 
-#include <QFile>
+#include "tests/support/Files.h"
 
 #include <utility>
 
@@ -38,9 +38,7 @@ TestCamera &FakeMachine::installCamera()
 QString FakeMachine::installPort(int port)
 {
     QString device = m_folder.filePath(QString("device%1").arg(port));
-    QFile file(device);
-    if (!file.open(QIODevice::WriteOnly))
-        qFatal("No file for a printer port: %s", qPrintable(device));
+    writeFile(device);
     Machine::current().portDevice = [=](int asked) { return asked == port ? device : QString(); };
     return device;
 }

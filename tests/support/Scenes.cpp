@@ -196,28 +196,17 @@ QStringList Scenes::languages()
 
 QStringList Scenes::windows()
 {
-    return {"frmprincipal",
-            "frmvenda",
-            "frmcadastro_clientes",
-            "frmcadastro_produtos",
-            "frmcadastro_categoria",
-            "frmcodigo_rapido",
-            "frmetiquetas",
-            "frmconfig_recibo",
-            "frmwebcam"};
+    return QString("frmprincipal frmvenda frmcadastro_clientes frmcadastro_produtos frmcadastro_categoria "
+                   "frmcodigo_rapido frmetiquetas frmconfig_recibo frmwebcam")
+        .split(' ');
 }
 
 QStringList Scenes::states()
 {
-    return {"frmvenda-small",
-            "frmvenda-unpaid",
-            "frmvenda-locked",
-            "frmcadastro_clientes-edit",
-            "frmcadastro_produtos-edit",
-            "frmcadastro_produtos-reserved",
-            "frmcadastro_categoria-edit",
-            "frmcodigo_rapido-postpaid",
-            "frmetiquetas-unread"};
+    return QString("frmvenda-small frmvenda-unpaid frmvenda-locked frmcadastro_clientes-edit "
+                   "frmcadastro_produtos-edit frmcadastro_produtos-reserved frmcadastro_categoria-edit "
+                   "frmcodigo_rapido-postpaid frmetiquetas-unread")
+        .split(' ');
 }
 
 void Scenes::play(const QString &scene, const Look &look)

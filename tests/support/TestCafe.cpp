@@ -13,8 +13,6 @@
 #include "tests/support/EngineSql.h"
 #include "windows/OpenForms.h"
 
-#include <QFile>
-
 #include <filesystem>
 #include <utility>
 
@@ -96,21 +94,6 @@ void TestCafe::executeAll(const QStringList &statements)
         for (const QString &statement : statements)
             execute(statement);
     });
-}
-
-QByteArray TestCafe::readFile(const QString &name) const
-{
-    QFile file(path(name));
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("Cannot read %s", qPrintable(file.fileName()));
-    return file.readAll();
-}
-
-void TestCafe::writeFile(const QString &name, const QByteArray &content)
-{
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("Cannot write %s", qPrintable(file.fileName()));
 }
 
 QByteArray TestCafe::readGolden(const QString &path) const

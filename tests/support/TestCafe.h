@@ -2,8 +2,8 @@
 
 #include "cafe/Cafe.h"
 #include "configuration/Arquivos_INI.h"
+#include "tests/support/Files.h"
 
-#include <QByteArray>
 #include <QDir>
 #include <QLocale>
 #include <QStringList>
@@ -54,8 +54,8 @@ public:
         Gravar_INI(path("config.ini"), section, key, value);
     }
 
-    QByteArray readFile(const QString &name) const;
-    void writeFile(const QString &name, const QByteArray &content);
+    QByteArray readFile(const QString &name) const { return ::readFile(path(name)); }
+    void writeFile(const QString &name, const QByteArray &content) { ::writeFile(path(name), content); }
     /// A text file, written as the program writes one on paper: in Latin-1, with line ends of its first platform.
     QByteArray readGolden(const QString &path) const;
 

@@ -3,8 +3,6 @@
 #include "windows/OpenForms.h"
 #include "windows/PageScale.h"
 
-#include <QTest>
-
 TestDesk::TestDesk(const Names &names, Form &(*make)(), const QLocale &region, const CafeOptions &options)
     : Desk(attendant, names), cafe(region, options), m_make(make)
 {

@@ -1,7 +1,6 @@
 #include "tests/support/Attendant.h"
 
 #include <QApplication>
-#include <QTest>
 
 /// A test of windows is worth what its attendant notices.
 class tst_support : public QObject

@@ -3,10 +3,10 @@
 #include "platform/files/IniProfile.h"
 #include "platform/files/Paths.h"
 #include "platform/files/TextOutput.h"
+#include "tests/support/Files.h"
 #include "tests/support/FullDisk.h"
 
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -39,7 +39,7 @@ private slots:
         m_folder = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir::setCurrent(m_folder->path()) && QDir().mkpath("Café/fotos"));
         for (const char *name : {"Café/Config.INI", "Café/fotos/JOÃO.jpg", "b.txt", "B.TXT", "B.txt"})
-            QVERIFY(QFile(name).open(QIODevice::WriteOnly));
+            writeFile(name);
     }
 
     void resolvesIgnoringCase()
@@ -58,24 +58,17 @@ private slots:
     void copiesWholeOrNotAtAll()
     {
         const QByteArray photo(200'000, 'p');
-        const auto content = [](const QString &name) {
-            QFile file(name);
-            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-        };
-        QFile source("Temp.jpg");
-        QVERIFY(source.open(QIODevice::WriteOnly) && source.write("old") == 3);
-        source.close();
+        writeFile("Temp.jpg", "old");
         FileCopy("TEMP.JPG", "CAFÉ\\FOTOS\\joão.JPG");
-        QCOMPARE(content("Café/fotos/JOÃO.jpg"), "old");
-        QVERIFY(source.open(QIODevice::WriteOnly) && source.write(photo) == photo.size());
-        source.close();
+        QCOMPARE(readFile("Café/fotos/JOÃO.jpg"), "old");
+        writeFile("Temp.jpg", photo);
         {
             const FullDisk full;
             QCOMPARE(failure([] { FileCopy("Temp.jpg", "Café/fotos/JOÃO.jpg"); }), ErrorNumber::PathAccess);
         }
-        QCOMPARE(content("Café/fotos/JOÃO.jpg"), "old");
+        QCOMPARE(readFile("Café/fotos/JOÃO.jpg"), "old");
         FileCopy("Temp.jpg", "Café/fotos/JOÃO.jpg");
-        QCOMPARE(content("Café/fotos/JOÃO.jpg"), photo);
+        QCOMPARE(readFile("Café/fotos/JOÃO.jpg"), photo);
         QCOMPARE(QDir("Café/fotos").entryList(QDir::Files | QDir::Hidden), QStringList("JOÃO.jpg"));
         QCOMPARE(failure([] { FileCopy("gone.jpg", "x.jpg"); }), ErrorNumber::FileNotFound);
         QCOMPARE(failure([] { FileCopy("Temp.jpg", "gone/x.jpg"); }), ErrorNumber::PathAccess);
@@ -83,7 +76,7 @@ private slots:
 
     void writesFilesAndPorts()
     {
-        QVERIFY(QFile("device").open(QIODevice::WriteOnly));
+        writeFile("device");
         int asked = 0;
         Machine::current().portDevice = [&](int port) {
             asked = port;
@@ -98,9 +91,7 @@ private slots:
             output.Print();
             output.Close();
             QCOMPARE(asked, port);
-            QFile written(port > 0 ? "device" : name);
-            QVERIFY(written.open(QIODevice::ReadOnly));
-            QCOMPARE(written.readAll(), "Descri\xE7\xE3o \x80 ?\r\n\r\n");
+            QCOMPARE(readFile(port > 0 ? "device" : name), "Descri\xE7\xE3o \x80 ?\r\n\r\n");
             QCOMPARE(QFile::exists(name), port == 0);
         }
     }
@@ -126,7 +117,8 @@ private slots:
         qputenv("TMPDIR", m_folder->filePath("tmp").toUtf8());
         QVERIFY(QDir().mkpath("tmp") && QDir().mkpath("home") && QDir().mkpath("spool/today"));
         Machine::current().portFolders = [&] { return QStringList{" ", m_folder->filePath("spool")}; };
-        QVERIFY(QFile("tmp/data").open(QIODevice::WriteOnly) && QFile("b.txt").resize(7));
+        writeFile("tmp/data");
+        writeFile("b.txt", "7 bytes");
         QVERIFY(QFile::link(m_folder->filePath("b.txt"), "tmp/link") && QFile::link("../gone", "tmp/dangling"));
         QVERIFY(QFile::link(m_folder->filePath("home"), "tmp/home") && mkfifo("tmp/pipe", 0600) == 0);
         TextOutput output;

@@ -1,8 +1,8 @@
 #include "platform/files/IniProfile.h"
+#include "tests/support/Files.h"
 #include "tests/support/FullDisk.h"
 
 #include <QDir>
-#include <QFile>
 #include <QStringConverter>
 #include <QTemporaryDir>
 #include <QTest>
@@ -145,19 +145,13 @@ private slots:
 private:
     QString path(const QString &name = "config.ini") const { return m_folder->filePath(name); }
 
-    void store(const QByteArray &bytes, const QString &name = "config.ini") const
-    {
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), bytes.size());
-    }
+    void store(const QByteArray &bytes, const QString &name = "config.ini") const { writeFile(path(name), bytes); }
 
     /// The file's bytes, once it is sure that nothing else lies in its folder.
     QByteArray stored() const
     {
-        QFile file(path());
         const bool alone = QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden) == QStringList("config.ini");
-        return alone && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing or not alone");
+        return alone ? readFile(path()) : QByteArray("missing or not alone");
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;

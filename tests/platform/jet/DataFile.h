@@ -3,8 +3,8 @@
 #include "platform/base/Err.h"
 #include "platform/jet/DBEngine.h"
 #include "tests/support/EngineSql.h"
+#include "tests/support/Files.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 /// Password of every data file in these tests.
@@ -31,18 +31,8 @@ public:
     void run(const QString &engineSql) const { runEngineSql(path(), connectText.mid(5), engineSql); }
 
     /// The bytes of the file, while no database has it open.
-    QByteArray bytes() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    void write(const QString &name, const QByteArray &content) const
-    {
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write %s", qPrintable(name));
-    }
+    QByteArray bytes() const { return readFile(path()); }
+    void write(const QString &name, const QByteArray &content) const { writeFile(path(name), content); }
 
     static QList<SchemaStep> steps()
     {

@@ -76,30 +76,6 @@ private slots:
                  "1");
     }
 
-    void deletesARangeOfTensOfThousands()
-    {
-        constexpr int rows = 32'766;
-        DataFile file;
-        QStringList codes;
-        QStringList names;
-        file.db->inTransaction([&] {
-            for (int i = 1; i <= rows; ++i) {
-                codes.append(QString("Codigo=%1").arg(i));
-                names.append(QString("Nome='CLIENTE ÇÃO %1'").arg(i));
-                file.db->Execute(
-                    QString("Insert into Produtos (Codigo,Descrição) values (%1,'CLIENTE ÇÃO %1')").arg(i));
-                file.db->Execute(QString("Insert into Vendas (Codigo,Nome) values (%1,'CLIENTE ÇÃO %1')").arg(i));
-            }
-            file.db->Execute("Insert into Produtos (Codigo,Descrição) values (40000,'FICA')");
-            file.db->Execute("Insert into Vendas (Codigo,Nome) values (40000,'FICA')");
-        });
-        file.db->Execute("Delete from Produtos WHERE Descrição in (Select Nome from Vendas Where " +
-                         names.join(" OR ") + ")");
-        QCOMPARE(file.answer("Select Descrição From Produtos"), "FICA");
-        file.db->Execute("DELETE FROM Vendas WHERE " + codes.join(" OR ") + " OR Nome='FICA TAMBÉM'");
-        QCOMPARE(file.answer("Select Nome From Vendas"), "FICA");
-    }
-
 private:
     DataFile m_file;
 };

@@ -6,7 +6,6 @@
 #include "tests/support/PrintSystem.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 namespace {
 void printAt(int column, int line, const QString &text)

@@ -6,7 +6,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
-#include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -70,16 +69,6 @@ private slots:
         composed.setCommitString(".");
         QCoreApplication::sendEvent(m_box, &composed);
         QCOMPARE(m_box->text(), "1,5,");
-    }
-
-    void changesAreToldEvenOfTheSameText()
-    {
-        QSignalSpy changes(m_box, &TextBox::Change);
-        m_box->setText("12");
-        m_box->setText("12");
-        QCOMPARE(changes.size(), 2);
-        QTest::keyClicks(m_box, "3");
-        QCOMPARE(changes.size(), 3);
     }
 
     void comboMayDiscardWhatIsTyped()

@@ -1,7 +1,6 @@
 #include "platform/window/Forms.h"
 
 #include <QTest>
-#include <QTimer>
 
 namespace {
 
@@ -34,20 +33,7 @@ class Customers : public Window
 
 public:
     Customers() { setObjectName("customers"); }
-
-    /// As a window waits for another: its own memory is read after each turn.
-    void waitFor(const Form *form)
-    {
-        while (Forms::loaded().contains(form))
-            DoEvents();
-        told << Name() + " goes on";
-    }
 };
-
-QStringList takeTold()
-{
-    return std::exchange(told, {});
-}
 
 } // namespace
 
@@ -56,49 +42,28 @@ class TestForms : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup()
-    {
-        for (Form *form : Forms::loaded())
-            form->Unload();
-        QCoreApplication::processEvents();
-        told.clear();
-    }
-
     void activatesOnlyWhenTheProgramsWindowChanges()
     {
         Counter &counter = Forms::use<Counter>();
-        counter.Show();
-        QVERIFY(QTest::qWaitForWindowActive(&counter));
+        const auto show = [](Form &form) {
+            form.Show();
+            QVERIFY(QTest::qWaitForWindowActive(&form));
+        };
+        show(counter);
         QWidget elsewhere;
         elsewhere.show();
         elsewhere.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
-        counter.Show();
-        QVERIFY(QTest::qWaitForWindowActive(&counter));
-        QCOMPARE(takeTold(), QStringList({"counter load", "counter activate"}));
+        show(counter);
+        QCOMPARE(std::exchange(told, {}), QStringList({"counter load", "counter activate"}));
 
         Customers &customers = Forms::use<Customers>();
-        customers.Show();
-        QVERIFY(QTest::qWaitForWindowActive(&customers));
+        show(customers);
         customers.Unload();
-        counter.Show();
-        QVERIFY(QTest::qWaitForWindowActive(&counter));
-        QCOMPARE(takeTold(), QStringList({"customers load", "customers activate", "customers unload", "customers freed",
-                                          "counter activate"}));
-    }
-
-    void keepsAWindowWhoseRoutineStillWaits()
-    {
-        Counter &counter = Forms::use<Counter>();
-        Customers &customers = Forms::use<Customers>();
-        customers.Show();
-        told.clear();
-        QTimer::singleShot(0, &customers, &QWidget::close);
-        QTimer::singleShot(30, &counter, &QWidget::close);
-        QTimer::singleShot(0, [&] { customers.waitFor(&counter); });
-        QTRY_COMPARE(told.size(), 5);
-        QCOMPARE(takeTold(), QStringList({"customers unload", "counter unload", "customers goes on", "customers freed",
-                                          "counter freed"}));
+        show(counter);
+        QCOMPARE(std::exchange(told, {}), QStringList({"customers load", "customers activate", "customers unload",
+                                                       "customers freed", "counter activate"}));
+        counter.Unload();
     }
 };
 

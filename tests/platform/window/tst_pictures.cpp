@@ -1,7 +1,7 @@
 #include "platform/base/Err.h"
 #include "platform/window/Pictures.h"
+#include "tests/support/Files.h"
 
-#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,8 +16,7 @@ private slots:
         // Ten thousand pixels a side, and nothing behind.
         const QByteArray huge = "GIF89a\x10\x27\x10\x27\x91\x01" + QByteArray(3, '\0');
         for (const QByteArray &bytes : {QByteArray(), QByteArray("no picture at all"), huge}) {
-            QFile file(path("bad.gif"));
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush());
+            writeFile(path("bad.gif"), bytes);
             QVERIFY_THROWS_EXCEPTION(RunTimeError, LoadPicture(path("bad.gif")));
         }
         QVERIFY_THROWS_EXCEPTION(RunTimeError, LoadPicture(path("missing.gif")));

@@ -58,10 +58,7 @@ struct TestDevice
     GstDevice parent;
     gchar **fields;
 };
-struct TestDeviceClass
-{
-    GstDeviceClass parent;
-};
+using TestDeviceClass = GstDeviceClass;
 G_DEFINE_TYPE(TestDevice, test_device, GST_TYPE_DEVICE)
 
 GstElement *createElement(GstDevice *device, const gchar *name)
@@ -89,17 +86,11 @@ void test_device_init(TestDevice *) {}
 
 void test_device_class_init(TestDeviceClass *klass)
 {
-    klass->parent.create_element = createElement;
+    klass->create_element = createElement;
 }
 
-struct TestProvider
-{
-    GstDeviceProvider parent;
-};
-struct TestProviderClass
-{
-    GstDeviceProviderClass parent;
-};
+using TestProvider = GstDeviceProvider;
+using TestProviderClass = GstDeviceProviderClass;
 G_DEFINE_TYPE(TestProvider, test_provider, GST_TYPE_DEVICE_PROVIDER)
 
 GList *probe(GstDeviceProvider *)
@@ -127,8 +118,8 @@ void test_provider_init(TestProvider *) {}
 
 void test_provider_class_init(TestProviderClass *klass)
 {
-    klass->parent.probe = probe;
-    gst_device_provider_class_set_static_metadata(&klass->parent, "Cameras of files", "Video/Source", "For tests",
+    klass->probe = probe;
+    gst_device_provider_class_set_static_metadata(klass, "Cameras of files", "Video/Source", "For tests",
                                                   "The Morvelane authors");
 }
 
