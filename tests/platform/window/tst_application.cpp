@@ -1,7 +1,7 @@
 #include "platform/base/Err.h"
 #include "platform/window/Application.h"
 #include "platform/window/Forms.h"
-#include "platform/window/Prompts.h"
+#include "tests/support/Willing.h"
 
 #include <QProcess>
 #include <QTest>
@@ -11,7 +11,7 @@
 
 namespace {
 
-class Standing : public PromptService
+class Standing : public Willing
 {
 public:
     int message(const QString &text, int style, const QString &title) override
@@ -20,8 +20,37 @@ public:
         std::fflush(stdout);
         return vbOK;
     }
-    QString openFile(const FileDialog &) override { return {}; }
-    QString saveFile(const FileDialog &) override { return {}; }
+};
+
+QStringList told;
+
+class Window : public Form
+{
+    Q_OBJECT
+
+public:
+    ~Window() override { told << Name() + " freed"; }
+
+protected:
+    void Form_Load() override { told << Name() + " load"; }
+    void Form_Activate() override { told << Name() + " activate"; }
+    void Form_Unload() override { told << Name() + " unload"; }
+};
+
+class Counter : public Window
+{
+    Q_OBJECT
+
+public:
+    Counter() { setObjectName("counter"); }
+};
+
+class Customers : public Window
+{
+    Q_OBJECT
+
+public:
+    Customers() { setObjectName("customers"); }
 };
 
 /// The child of the test below: fails inside a routine that another one waits for.
@@ -48,6 +77,30 @@ class TestApplication : public QObject
     Q_OBJECT
 
 private slots:
+    void activatesOnlyWhenTheProgramsWindowChanges()
+    {
+        Counter &counter = Forms::use<Counter>();
+        const auto show = [](Form &form) {
+            form.Show();
+            QVERIFY(QTest::qWaitForWindowActive(&form));
+        };
+        show(counter);
+        QWidget elsewhere;
+        elsewhere.show();
+        elsewhere.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+        show(counter);
+        QCOMPARE(std::exchange(told, {}), QStringList({"counter load", "counter activate"}));
+
+        Customers &customers = Forms::use<Customers>();
+        show(customers);
+        customers.Unload();
+        show(counter);
+        QCOMPARE(std::exchange(told, {}), QStringList({"customers load", "customers activate", "customers unload",
+                                                       "customers freed", "counter activate"}));
+        counter.Unload();
+    }
+
     void failureThatNoRoutineTrapsEndsTheProgram()
     {
         QProcess program;

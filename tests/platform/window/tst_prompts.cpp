@@ -1,4 +1,5 @@
 #include "platform/window/Prompts.h"
+#include "tests/support/Files.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -34,23 +35,16 @@ private slots:
 
     void messageShowsItsStyle()
     {
-        struct
-        {
-            int style;
-            QMessageBox::Icon icon;
-            Qt::Key key;
-            int answer;
-        } constexpr cases[] = {{36, QMessageBox::Question, Qt::Key_Return, vbYes},
-                               {68, QMessageBox::Information, Qt::Key_Escape, vbNo}};
         const QString text = "Remover <b>MARIA</b> & filhos?\nAgora";
-        for (const auto &each : cases) {
+        for (const auto &[style, icon, key, answer] : {std::tuple(36, QMessageBox::Question, Qt::Key_Return, vbYes),
+                                                       {68, QMessageBox::Information, Qt::Key_Escape, vbNo}}) {
             whenOpen<QMessageBox>([&](QMessageBox &box) {
                 QCOMPARE(box.text(), text);
                 QCOMPARE(box.textFormat(), Qt::PlainText);
-                QCOMPARE(box.icon(), each.icon);
-                QTest::keyClick(&box, each.key);
+                QCOMPARE(box.icon(), icon);
+                QTest::keyClick(&box, key);
             });
-            QCOMPARE(MsgBox(text, each.style), each.answer);
+            QCOMPARE(MsgBox(text, style), int(answer));
         }
     }
 
@@ -58,8 +52,8 @@ private slots:
     {
         QTemporaryDir folder;
         QDir(folder.path()).mkdir("fotos");
-        QFile photo(folder.filePath("fotos/a.jpg"));
-        QVERIFY(photo.open(QIODevice::WriteOnly));
+        const QString photo = folder.filePath("fotos/a.jpg");
+        writeFile(photo);
 
         FileDialog dialog;
         dialog.InitDir = folder.path() + "\\FOTOS";
@@ -72,7 +66,7 @@ private slots:
             static_cast<QDialog &>(shown).accept();
         });
         dialog.ShowOpen();
-        QCOMPARE(dialog.FileName, photo.fileName());
+        QCOMPARE(dialog.FileName, photo);
         // What is typed need not be there: whoever asked says so in words of its own.
         whenOpen<QFileDialog>([](QFileDialog &shown) {
             auto *name = shown.findChild<QLineEdit *>("fileNameEdit");
