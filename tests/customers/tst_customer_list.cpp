@@ -3,10 +3,10 @@
 #include "customers/PhotoBox.h"
 #include "platform/base/Err.h"
 #include "sale/frmvenda.h"
+#include "tests/support/Portrait.h"
 #include "windows/OpenForms.h"
 
 #include <QFile>
-#include <QImage>
 #include <QLineEdit>
 
 /// The list of customers: sorting, searching, editing with what follows from another name or nick, removing, and the
@@ -158,9 +158,7 @@ private slots:
     {
         CustomerDesk desk;
         const QString photo = desk.cafe.path("Fotos/1.jpg");
-        QImage image(35, 29, QImage::Format_RGB32);
-        image.fill(Qt::blue);
-        QVERIFY(image.save(photo));
+        QVERIFY(portrait({35, 29}).save(photo));
         desk.change("Clientes", "Data_Nasc='', CaminhoFoto='" + photo.toUpper() + "' Where Codigo=1");
         desk.open();
         desk.edit(1);

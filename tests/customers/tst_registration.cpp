@@ -2,11 +2,11 @@
 
 #include "platform/window/PictureBox.h"
 #include "sale/frmvenda.h"
+#include "tests/support/Portrait.h"
 #include "windows/OpenForms.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QImage>
 #include <QLineEdit>
 
 namespace {
@@ -150,9 +150,7 @@ private slots:
     void takesAPhotoThatTheSaleWindowShows()
     {
         CustomerDesk desk;
-        QImage frame(640, 480, QImage::Format_RGB32);
-        frame.fill(Qt::blue);
-        desk.machine.installCamera().see(frame);
+        desk.machine.installCamera().see(portrait({640, 480}));
         const auto webcam = [](const QString &button) { click(loadedWindow("frmwebcam"), button); };
         QDir(desk.cafe.path("Fotos")).removeRecursively();
         desk.open();
@@ -184,9 +182,7 @@ private slots:
         desk.change("Clientes", "Nick='41' Where Codigo=1");
         desk.open();
         const QString file = desk.cafe.path("Foto Ana.png");
-        QImage image(30, 20, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        QVERIFY(image.save(file));
+        QVERIFY(portrait({30, 20}).save(file));
         desk.attendant.expectOpenFile("Todas as imagens(*.*) |*.bmp;*.jpg;*.gif| Arquivos JPG (*.jpg) |*.jpg|"
                                       "Arquivos GIF (*.gif) |*.gif|Bitmap (*.bmp) |*.bmp|",
                                       file);

@@ -4,13 +4,13 @@
 #include "platform/window/PictureBox.h"
 #include "shell/frmprincipal.h"
 #include "tests/support/FullDisk.h"
+#include "tests/support/Portrait.h"
 #include "tests/support/TestDesk.h"
 
 #include <QClipboard>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QGuiApplication>
-#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -20,19 +20,6 @@
 
 namespace {
 const QString cannotUse = "Não foi possível usar a câmera. Verifique se ela está ligada.";
-
-/// Shades with the grain of a photo: greener to the right, and redder to the bottom.
-QImage snapshot(QSize size)
-{
-    QImage image(size, QImage::Format_RGB32);
-    QRandomGenerator chance(1);
-    for (int y = 0; y < size.height(); ++y)
-        for (int x = 0; x < size.width(); ++x) {
-            const int grain = chance.bounded(9);
-            image.setPixel(x, y, qRgb(240 * y / size.height() + grain, 240 * x / size.width() + grain, 90 + grain));
-        }
-    return image;
-}
 
 /// Likeness of two pictures in decibels.
 double psnr(const QImage &one, const QImage &other)
@@ -97,7 +84,7 @@ private slots:
 
     void theLastFrameIsStored()
     {
-        const QImage first = snapshot({640, 480});
+        const QImage first = portrait({640, 480});
         const QImage second = first.mirrored();
         Window window(m_machine.installCamera(), first);
         QVERIFY(window.sees(first));
@@ -121,10 +108,10 @@ private slots:
     {
         for (const QSize size : {QSize(1280, 720), QSize(3840, 2160), QSize(320, 240)}) {
             TestCamera &camera = m_machine.installCamera();
-            const QImage seen = snapshot(size);
+            const QImage seen = portrait(size);
             size.height() == 720 ? camera.seeJpeg(seen) : camera.see(seen);
             TestCamera second;
-            second.see(snapshot({640, 480}).mirrored());
+            second.see(portrait({640, 480}).mirrored());
             TestCamera::plug({&camera, &second});
             const QSize cut = QSize(4, 3).scaled(size, Qt::KeepAspectRatio);
             const QImage wanted = seen.copy((size.width() - cut.width()) / 2, 0, cut.width(), cut.height())
@@ -147,7 +134,7 @@ private slots:
     {
         for (const char *fault : {"none", "no program", "busy", "crash", "driver hangs", "hang", "late"}) {
             TestCamera &camera = m_machine.installCamera();
-            camera.see(snapshot({640, 480}));
+            camera.see(portrait({640, 480}));
             camera.suffer(fault, 0, 5'000'000);
             if (qstrcmp(fault, "none") == 0)
                 TestCamera::plug({});
@@ -165,7 +152,7 @@ private slots:
 
     void saysThatThereIsNoPictureAndShowsTheNextOne()
     {
-        const QImage first = snapshot({640, 480});
+        const QImage first = portrait({640, 480});
         for (const char *fault : {"silent", "unplugged", "ended", "crash", "hang"}) {
             TestCamera &camera = m_machine.installCamera();
             camera.suffer(fault, 20, 120);
@@ -190,7 +177,7 @@ private slots:
     void pressesWhileItConnects()
     {
         TestCamera &camera = m_machine.installCamera();
-        camera.see(snapshot({640, 480}));
+        camera.see(portrait({640, 480}));
         camera.suffer("late", 0, 1'500'000);
         int opened = 0;
         const auto later = [&](const auto &press) {
@@ -225,18 +212,18 @@ private slots:
         // Failures wait their time out.
         {
             const FullDisk full;
-            QCOMPARE(save(snapshot({640, 480})), 25);
+            QCOMPARE(save(portrait({640, 480})), 25);
         }
         QCOMPARE(save({}), 25);
         m_machine.clock.setTime(QTime(23, 59, 58));
-        save(snapshot({640, 480}), "missing folder/Fototemp.jpg");
+        save(portrait({640, 480}), "missing folder/Fototemp.jpg");
         QVERIFY(m_machine.clock.time() < QTime(0, 0, 1));
         QCOMPARE(filesIn(folder), QStringList());
-        QVERIFY(snapshot({9, 9}).save(folder.filePath("FOTOTEMP.JPG")));
+        QVERIFY(portrait({9, 9}).save(folder.filePath("FOTOTEMP.JPG")));
         for (const QSize size : {QSize(349, 290), QSize(640, 480), QSize(1, 1)}) {
-            QCOMPARE(save(snapshot(size)), 0);
+            QCOMPARE(save(portrait(size)), 0);
             QCOMPARE(filesIn(folder).size(), 1);
-            const double likeness = psnr(QImage(folder.filePath(filesIn(folder).first())), snapshot(size));
+            const double likeness = psnr(QImage(folder.filePath(filesIn(folder).first())), portrait(size));
             QVERIFY2(likeness > 35, qPrintable(QString::number(likeness)));
         }
     }

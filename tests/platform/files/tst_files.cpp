@@ -1,8 +1,8 @@
-#include "platform/base/Err.h"
 #include "platform/base/Machine.h"
 #include "platform/files/IniProfile.h"
 #include "platform/files/Paths.h"
 #include "platform/files/TextOutput.h"
+#include "tests/support/Errors.h"
 #include "tests/support/Files.h"
 #include "tests/support/FullDisk.h"
 
@@ -15,17 +15,6 @@
 #include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-namespace {
-
-int failure(const std::function<void()> &statement)
-{
-    Err::Clear();
-    OnErrorGoToEnd(statement);
-    return Err::Number();
-}
-
-} // namespace
 
 class tst_files : public QObject
 {
@@ -64,14 +53,14 @@ private slots:
         writeFile("Temp.jpg", photo);
         {
             const FullDisk full;
-            QCOMPARE(failure([] { FileCopy("Temp.jpg", "Café/fotos/JOÃO.jpg"); }), ErrorNumber::PathAccess);
+            QCOMPARE(errorOf([] { FileCopy("Temp.jpg", "Café/fotos/JOÃO.jpg"); }), ErrorNumber::PathAccess);
         }
         QCOMPARE(readFile("Café/fotos/JOÃO.jpg"), "old");
         FileCopy("Temp.jpg", "Café/fotos/JOÃO.jpg");
         QCOMPARE(readFile("Café/fotos/JOÃO.jpg"), photo);
         QCOMPARE(QDir("Café/fotos").entryList(QDir::Files | QDir::Hidden), QStringList("JOÃO.jpg"));
-        QCOMPARE(failure([] { FileCopy("gone.jpg", "x.jpg"); }), ErrorNumber::FileNotFound);
-        QCOMPARE(failure([] { FileCopy("Temp.jpg", "gone/x.jpg"); }), ErrorNumber::PathAccess);
+        QCOMPARE(errorOf([] { FileCopy("gone.jpg", "x.jpg"); }), ErrorNumber::FileNotFound);
+        QCOMPARE(errorOf([] { FileCopy("Temp.jpg", "gone/x.jpg"); }), ErrorNumber::PathAccess);
     }
 
     void writesFilesAndPorts()
@@ -103,12 +92,12 @@ private slots:
         Machine::current().portDevice = [&](int) { return device; };
         for (const char *missing : {"", "unplugged"}) {
             device = missing;
-            QCOMPARE(failure([&] { output.Open("LPT1"); }), ErrorNumber::DeviceUnavailable);
+            QCOMPARE(errorOf([&] { output.Open("LPT1"); }), ErrorNumber::DeviceUnavailable);
             QVERIFY(!output.isOpen() && !QFile::exists("LPT1") && !QFile::exists("unplugged"));
         }
         device = "/dev/full";
         output.Open("LPT1");
-        QCOMPARE(failure([&] { output.Print("first line"); }), ErrorNumber::DeviceUnavailable);
+        QCOMPARE(errorOf([&] { output.Print("first line"); }), ErrorNumber::DeviceUnavailable);
     }
 
     /// Whoever can write the share names the port; no file of this user's may come to harm.
@@ -123,7 +112,7 @@ private slots:
         QVERIFY(QFile::link(m_folder->filePath("home"), "tmp/home") && mkfifo("tmp/pipe", 0600) == 0);
         TextOutput output;
         const auto prints = [&](const QString &name) {
-            return failure([&] {
+            return errorOf([&] {
                 output.OpenPort(name);
                 output.Print("receipt");
                 output.Close();
@@ -151,7 +140,7 @@ private slots:
         TextOutput output;
         output.OpenPort(ptsname(other));
         for (int line = 0; line < 100; ++line)
-            failure([&] { output.Print(QString(1000, u'x')); });
+            errorOf([&] { output.Print(QString(1000, u'x')); });
         QCOMPARE(Err::Number(), 0 + ErrorNumber::DeviceUnavailable);
         QCOMPARE(slept, 10'000);
         output.Close();

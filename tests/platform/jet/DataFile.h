@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/base/Err.h"
 #include "platform/jet/DBEngine.h"
 #include "tests/support/EngineSql.h"
+#include "tests/support/Errors.h"
 #include "tests/support/Files.h"
 
 #include <QTemporaryDir>
@@ -74,12 +74,3 @@ public:
 private:
     QTemporaryDir m_folder;
 };
-
-/// Number of the error that an operation raises; 0 for none.
-template <typename Operation>
-int errorOf(Operation operation)
-{
-    Err::Clear();
-    OnErrorGoToEnd(operation);
-    return Err::Number();
-}
