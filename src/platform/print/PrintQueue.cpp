@@ -191,12 +191,15 @@ void PrintQueue::print(const QByteArray &pdf, const QString &title)
     http_t *connection = m_parts->connection();
     cups_dest_t *queue = m_parts->queue;
     cups_dinfo_t *information = m_parts->information.get();
-    // What the user has set for this queue, but with a sheet of the document's size.
+    // What the user has set for this queue, but with a sheet of the document's size. Of its two names the system
+    // prefers the driver's own.
     cups_option_t *options = nullptr;
     int count = 0;
-    for (int option = 0; option < queue->num_options; ++option)
-        count = cups().cupsAddOption(queue->options[option].name, queue->options[option].value, count, &options);
-    if (m_parts->sheet.media[0] != '\0')
+    const bool hasSheet = m_parts->sheet.media[0] != '\0';
+    for (const cups_option_t &each : std::span(queue->options, static_cast<size_t>(queue->num_options)))
+        if (!hasSheet || qstricmp(each.name, "PageSize") != 0)
+            count = cups().cupsAddOption(each.name, each.value, count, &options);
+    if (hasSheet)
         count = cups().cupsAddOption(CUPS_MEDIA, m_parts->sheet.media, count, &options);
 
     int job = 0;
