@@ -9,6 +9,7 @@
 #include <QProcess>
 
 #include <chrono>
+#include <csignal>
 #include <utility>
 
 namespace {
@@ -80,6 +81,9 @@ void FirstCamera::close()
     m_picture = {};
     if (QProcess *process = std::exchange(m_process, nullptr)) {
         process->disconnect();
+        // The group is what the media library started, too: its look through a plugin that hangs would never end.
+        if (const auto group = static_cast<pid_t>(process->processId()); group > 0)
+            ::kill(-group, SIGKILL);
         process->kill();
         // A process that its driver doesn't let go can't be waited for, as the destructor of QProcess would.
         if (process->waitForFinished(reapedWithinMilliseconds) || process->state() == QProcess::NotRunning)

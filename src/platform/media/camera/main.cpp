@@ -146,6 +146,8 @@ int main(int argc, char **argv)
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (::getppid() != parent)
         return EXIT_FAILURE;
+    // The terminal ends the whole group.
+    ::setpgid(0, 0);
     // Libraries that print would write between the pictures.
     const int output = ::dup(STDOUT_FILENO);
     ::dup2(STDERR_FILENO, STDOUT_FILENO);
