@@ -17,8 +17,8 @@ public:
     FirstCamera();
     ~FirstCamera() override;
 
-    /// Waits for the first picture, for 3 seconds at most; events run meanwhile. False when none came, or when the
-    /// camera was closed in the meantime.
+    /// Waits for the first picture, for 3 seconds at most from when the media library is up; events run meanwhile.
+    /// False when none came, or when the camera was closed in the meantime.
     bool open();
     /// Takes a fraction of a second at most, whatever the camera does.
     void close();

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-// What the computer's print system (CUPS) offers. Whoever asks waits for an answer of it for three seconds at most,
+// What the computer's print system (CUPS) offers. Whoever asks waits for answers of it for some four seconds at most,
 // with a sign of life, and PrinterError is raised when none came.
 
 /// Names of the print queues, in the system's order; none where the computer has no print system.
