@@ -147,11 +147,11 @@ void SaleCart::cmdexcluir_Click()
     // it.
     if (there)
         m_discount.Total_Venda -= readNumber(cart[index].Valor).value_or(0);
-    if (there && cart.size() > 1) {
+    if (index < 0 || cart.size() <= 1) {
+        removeLines();
+    } else if (there) {
         cart.removeAt(index);
         m_grid.RemoveItem(static_cast<int>(index) + 1);
-    } else {
-        removeLines();
     }
     m_discount.txtmotivo_Click();
     showTotal();
