@@ -32,7 +32,7 @@ FirstCamera::FirstCamera()
     m_restart.setSingleShot(true);
     m_restart.setInterval(restartAfter);
     m_ageCheck.setInterval(ageCheckEach);
-    m_patience.callOnTimeout(this, &FirstCamera::close);
+    m_patience.callOnTimeout(this, &FirstCamera::giveUp);
     m_restart.callOnTimeout(this, &FirstCamera::start);
     m_ageCheck.callOnTimeout(this, &FirstCamera::checkAge);
 }
@@ -40,6 +40,15 @@ FirstCamera::FirstCamera()
 FirstCamera::~FirstCamera()
 {
     close();
+}
+
+/// What came while the till was busy counts, though nobody has looked yet.
+void FirstCamera::giveUp()
+{
+    if (m_process)
+        m_process->waitForReadyRead(0);
+    if (!m_connected && !m_patience.isActive())
+        close();
 }
 
 bool FirstCamera::open()

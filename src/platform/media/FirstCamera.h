@@ -33,6 +33,7 @@ signals:
 
 private:
     void start();
+    void giveUp();
     void read();
     bool readNext();
     void checkAge();
